@@ -1,0 +1,136 @@
+// KySaisie: the component's one public class. An instance is a handle to the
+// module state of the calling thread's apartment, so every instance sees the
+// same screen, record table and pending key.
+//
+// Index of this file
+//   [SECTION] Apartment
+//   [SECTION] Keyboard: key pipeline and virtual keyboard
+//   [SECTION] Field editor and its helpers
+//   [SECTION] Typed entry: type codes, ModD, ModDT
+//   [SECTION] Text display: grid, colours, output, erasing
+//   [SECTION] Window management: sizing
+//
+// Arguments: a non-const reference is an output (the caller's variable is
+// written); a pointer is an optional output, nullptr when left out; anything
+// else is an input. Methods of the interface that are not listed here are not
+// built yet: the method table answers them with error 445.
+#pragma once
+
+#include <memory>
+
+#include "ferlan/host.hpp"
+#include "ferlan/runtime.hpp"
+
+namespace ferlan {
+
+// ---------------------------------------------------------------------------
+// [SECTION] Apartment
+// ---------------------------------------------------------------------------
+
+// The module state of one thread, with the registry its external objects come
+// from. While an Apartment lives it is the current one on its thread; nested
+// apartments hide the outer one until they end. A thread with no apartment
+// gets an empty default one at its first call.
+class Apartment {
+ public:
+  explicit Apartment(ClassRegistry registry);
+  ~Apartment();
+  Apartment(const Apartment&) = delete;
+  Apartment& operator=(const Apartment&) = delete;
+
+  struct State;
+
+ private:
+  std::unique_ptr<State> state_;
+  State* previous_;
+};
+
+class KySaisie {
+ public:
+  // -------------------------------------------------------------------------
+  // [SECTION] Keyboard: key pipeline and virtual keyboard
+  // -------------------------------------------------------------------------
+  void IntercepteClavierKY(Boolean I);
+  void GestKeyDown(Integer& KeyCode, Integer Shift);
+  void GestKeyPress(Integer& KeyAscii);
+  void ModifClavier(Integer KeyAscii, Boolean Caractère);
+  void ClavierVirtuelToucheFonction(Integer F);
+  void ClavierVirtuel(const String& C, Integer T = 0, Boolean VideAvant = true);
+  void VideClavierVirtuel();
+  void VideClavier();
+  void Saisie(String& R, Integer* Code = nullptr);
+  void ScanClavier(String& R, Boolean& A);
+
+  // -------------------------------------------------------------------------
+  // [SECTION] Field editor and its helpers
+  // -------------------------------------------------------------------------
+  void Modif(Single LT, Integer C, Single CT, Integer LCM, Single LzT, Single CzT,
+             const String& TV, String& CH, Integer& TR, const String& IMS,
+             Integer* Col = nullptr, const String& Coul = u"B",
+             PictureBoxRef KyFSubst = nullptr, Single CaretX = 0, Single CaretY = 0);
+  void Ctrl_C(const String& C);
+  Boolean FnMot(Integer X);
+  void FormatDate(String& CH, const String& TV);
+
+  // -------------------------------------------------------------------------
+  // [SECTION] Typed entry: type codes, ModD, ModDT
+  // -------------------------------------------------------------------------
+  void CodeType(String& C, const String& T, Integer NB);
+  void DecodeType(String& C, String& TYP, Integer& NB, Integer& ND);
+  void ModD(String& M, String TYP, Integer L, Integer C, Single CT, Integer LC, Integer& TR,
+            Long LzT = 0, Long CzT = 0, String IMS = u"F", Long* ORDREDATE = nullptr,
+            const String& LRacAutoNb = u"[]", const String& Coul = u"B");
+  void ModDT(String& M, String TYP, Single LT, Integer C, Single CT, Integer LC, Integer& TR,
+             Long LzT = 0, Long CzT = 0, String IMS = u"F", Long* ORDREDATE = nullptr,
+             const String& LRacAutoNb = u"[]", const String& Coul = u"B",
+             PictureBoxRef KyFSubst = nullptr, Single CaretX = 0, Single CaretY = 0,
+             Integer* Col = nullptr);
+
+  // -------------------------------------------------------------------------
+  // [SECTION] Text display: grid, colours, output, erasing
+  // -------------------------------------------------------------------------
+  Long HauteurTexte();
+  Single WinLigne(Single L);
+  Long LigneWin(Single Y);
+  Single LargeurTexte(const String& T);
+  Single WinCol(Single C);
+  Long ColWin(Single X);
+  Integer NbLigne();
+  Integer NbCol();
+  void PosAff(Long* L = nullptr, Long* C = nullptr);
+  void AffPos(Long L, Long C = 1);
+  void AffPosT(Long L, Long C);
+
+  Long CouleurFond(const String& C);
+  Long Couleur(const String& C);
+
+  void MesBasEcran(const String& C, const String& Mes);
+  void AfficheCentre(Long L, const String& C, String Mes, Boolean EffAv = true,
+                     Long* ColFin = nullptr);
+  // `Col` is the grid column, written C' where the line comes first.
+  void Affiche(Long L, Integer Col, const String& C, const String& Mes);
+  void AfficheColT(Long L, Single CT, const String& C, const String& Mes);
+  void AfficheT(Long LT, Single CT, const String& C, const String& Mes);
+  void Aff(const String& C, const String& Mes);
+  void AffLig(const String& C, const String& Mes, Long* L = nullptr);
+  void AffL(const String& M);
+  void AffSL(Integer N);
+
+  void EffaceZoneSaisie(Single LT, Single CzT, Single LzT, Long Coul = -1,
+                        PictureBoxRef A = nullptr);
+  void EffaceLigneColT(Integer L, Single CT);
+  void EffaceLignes(Integer Ld, Integer Lf);
+  void EffaceLigne(Integer L, Integer C = 1);
+  void EffaceEcran(Boolean RéductionFeuille = false);
+
+  // -------------------------------------------------------------------------
+  // [SECTION] Window management: sizing
+  // -------------------------------------------------------------------------
+  Long EspaceFeuille(Long L, Long H);
+  void Centrage(PictureBoxRef P, Long MargeBasse = 0);
+  void InitKyF();
+  void DimensionFeuille(Integer H, Integer L = 80);
+  void DimensionFeuilleLT(Integer H, Single L, Boolean QueSiInf = false);
+};
+
+}  // namespace ferlan

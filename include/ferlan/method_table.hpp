@@ -1,0 +1,35 @@
+// The method table of KySaisie: the 93 methods in their fixed order, with
+// dispatch identifiers from 0x60030000 and an invoker that takes and gives
+// Variants, as a host bound to the interface by name calls them.
+#pragma once
+
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "ferlan/kysaisie.hpp"
+#include "ferlan/variant.hpp"
+
+namespace ferlan {
+
+// Calls the method with `args` in declared order; trailing optional
+// arguments may be left out. Arguments the method writes are written back
+// into `args`. Gives the method's result, Empty for a procedure.
+// Errors: 450 for too many arguments, 449 for a required one left out, 13
+// for an argument of the wrong type, 445 for a method not built yet, and
+// whatever the method itself raises.
+using Invoker = Variant (*)(KySaisie& self, std::vector<Variant>& args);
+
+struct MethodInfo {
+  std::string_view name;  // UTF-8, accents kept
+  Long dispid;
+  Invoker invoke;
+};
+
+constexpr Long kFirstDispId = 0x60030000;
+
+std::span<const MethodInfo> MethodTable();
+// The method of that name, or nullptr.
+const MethodInfo* FindMethod(std::string_view name);
+
+}  // namespace ferlan
