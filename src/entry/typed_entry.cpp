@@ -1,0 +1,124 @@
+// Typed entry: a stored value shown in a field, edited with Modif until its
+// text is acceptable for its type code, and given back in stored form.
+//
+// Env.SaisieOK is the loop's flag and lives in the environment, not in a
+// local: the host may read it during the wait and after the entry.
+#include <utility>
+
+#include "component/module_state.hpp"
+#include "entry/numeric_check.hpp"
+#include "ferlan/kysaisie.hpp"
+#include "ferlan/runtime.hpp"
+
+namespace ferlan {
+
+namespace {
+
+// Only these four keys may give up an unacceptable text for the old value;
+// Enter and the function keys bring the editor back instead.
+Boolean IsLeavingKey(Env& env, Integer TR) {
+  return TR == env.ToucheHaut() || TR == env.ToucheBas() || TR == env.TouchePageHaut() ||
+         TR == env.TouchePageBas();
+}
+
+// The editor mode of a plain code; the numeric family edits with no mode.
+String EditorMode(Integer NB, const String& T) {
+  if (NB != 0) return u"";
+  if (T == u"D") return u"D";
+  if (T == u"B") return u"B";
+  return u"C";
+}
+
+}  // namespace
+
+void KySaisie::ModD(String& M, String TYP, Integer L, Integer C, Single CT, Integer LC,
+                    Integer& TR, Long LzT, Long CzT, String IMS, Long* ORDREDATE,
+                    const String& LRacAutoNb, const String& Coul) {
+  Integer col = 0;
+  ModDT(M, std::move(TYP), WinLigne(L), C, CT, LC, TR, LzT, CzT, std::move(IMS), ORDREDATE,
+        LRacAutoNb, Coul, nullptr, 0, 0, &col);
+}
+
+void KySaisie::ModDT(String& M, String TYP, Single LT, Integer C, Single CT, Integer LC,
+                     Integer& TR, Long LzT, Long CzT, String IMS, Long* ORDREDATE,
+                     const String& LRacAutoNb, const String& Coul, PictureBoxRef KyFSubst,
+                     Single CaretX, Single CaretY, Integer* Col) {
+  ModuleState& st = State();
+
+  if (LzT == 0) LzT = CLng(WinCol(AddInt(LC, 2)));
+  if (CzT == 0) CzT = CLng(CT);
+
+  // The stored form as the caller gave it: what an abandoned entry returns.
+  const String stored_on_entry = M;
+
+  // DecodeType cuts the code down to its letter, so it works on a copy.
+  String T = TYP;
+  Integer NB = 0;
+  Integer ND = 0;
+  DecodeType(M, T, NB, ND);
+
+  // A number may be an expression longer than its box: let it scroll.
+  if (IMS == u"F" && NB != 0) IMS = u"Infini";
+  const String TV = EditorMode(NB, T);
+
+  st.Env->SetSaisieOK(false);
+  const String Ancien = M;
+
+  // Where the caller leaves out ORDREDATE, the date check still needs one.
+  Long unused_order = 0;
+  Long& order = ORDREDATE != nullptr ? *ORDREDATE : unused_order;
+
+  // A calculator result stands in the field: the editor runs again at once,
+  // whatever the flag and whatever key ended the pass.
+  bool result_to_confirm = false;
+
+  while (result_to_confirm || !st.Env->SaisieOK()) {
+    result_to_confirm = false;
+
+    Modif(LT, C, CT, LC, static_cast<Single>(LzT), static_cast<Single>(CzT), TV, M, TR, IMS,
+          Col, Coul, KyFSubst, CaretX, CaretY);
+    order = 0;
+
+    // Modif returns at once, with TR 0, while Env.Abandon holds, so no text
+    // could ever be accepted or left with a leaving key: the loop would never
+    // end. An abandoned entry ends here, whatever stood in the field, and
+    // gives back the value exactly as it was stored on entry. Nothing is
+    // drawn, as Modif draws nothing when it is abandoned.
+    if (st.Env->Abandon()) {
+      M = stored_on_entry;
+      TR = 0;
+      st.Env->SetSaisieOK(true);
+      return;
+    }
+
+    if (NB != 0) {
+      if (entry::CheckNumeric(st, M, T, ND, LRacAutoNb) == entry::NumericOutcome::Computed) {
+        result_to_confirm = true;
+        continue;
+      }
+    } else if (T == u"D") {
+      if (M.empty()) {
+        st.Env->SetSaisieOK(true);
+      } else {
+        st.Env->SetSaisieOK(st.Dates->Valide(M, order));
+      }
+    } else if (T == u"B") {
+      st.Conv->Majuscules(M);
+      st.Env->SetSaisieOK(M == u"OUI" || M == u"NON");
+    } else {
+      st.Env->SetSaisieOK(true);
+    }
+
+    if (st.Env->SaisieOK() || !IsLeavingKey(*st.Env, TR)) continue;
+
+    // Leaving an unacceptable text: the old value comes back, on screen as
+    // far as the field's width goes, and whole in M.
+    M = Ancien;
+    AfficheT(CLng(LT), CT, u"N", Left(M, LC));
+    st.Env->SetSaisieOK(true);
+  }
+
+  CodeType(M, T, NB);
+}
+
+}  // namespace ferlan
