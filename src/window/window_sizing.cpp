@@ -45,7 +45,7 @@ void KySaisie::DimensionFeuilleLT(Integer H, Single L, Boolean QueSiInf) {
 Long KySaisie::EspaceFeuille(Long L, Long H) {
   ModuleState& st = State();
   Boolean changed = false;
-  if (L > CurrentZone(st).ScaleWidth()) {
+  if (static_cast<Double>(L) > CurrentZone(st).ScaleWidth()) {
     // Exactly L, with no margin, unlike DimensionFeuilleLT.
     st.Dessin->Largeur(CurrentZone(st), static_cast<Single>(L), false);
     changed = true;
