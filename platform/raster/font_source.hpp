@@ -1,0 +1,19 @@
+// Where the surface's font comes from: DejaVu Sans, regular and bold, found
+// through fontconfig. Private to the raster back-end.
+#pragma once
+
+#include <string>
+
+namespace ferlan::raster {
+
+struct FontFiles {
+  std::string regular;
+  std::string bold;
+};
+
+// The files of DejaVu Sans, looked up once per process. Raises a Host error of
+// "fontconfig" when the family is not installed, rather than drawing with
+// whatever font fontconfig would substitute: metrics must not change silently.
+const FontFiles& DejaVuSansFiles();
+
+}  // namespace ferlan::raster

@@ -1,0 +1,59 @@
+// The raster surface: a picture control's canvas drawn into pixels with Cairo,
+// text in DejaVu Sans through FreeType. Units are twips, 15 to a pixel.
+//
+// Implemented:
+//  [X] TextWidth / TextHeight from the font's scalable metrics at the size and
+//      weight asked (no kerning, as the platform's own measure has none)
+//  [X] Clear, FillBox, Box, Line in 0x00BBGGRR, corners in any order, both
+//      corners included, crisp (no anti-aliasing) on whole pixels
+//  [X] Text with its top left corner at (x, y), anti-aliased grey coverage
+//  [X] Resize keeping what was drawn at the top left
+//  [X] Snapshot to a PixelPicture; Paint of any PixelPicture
+// Missing:
+//  [ ] Italic, underline, other families: the surface has one font
+//  [ ] Line widths other than one pixel, dotted styles
+#pragma once
+
+#include <memory>
+
+#include "forms/canvas.hpp"
+
+namespace ferlan::raster {
+
+class RasterCanvas final : public forms::Canvas {
+ public:
+  // A canvas of that size in twips, cleared to white.
+  explicit RasterCanvas(Single width = 0, Single height = 0);
+  ~RasterCanvas() override;
+  RasterCanvas(const RasterCanvas&) = delete;
+  RasterCanvas& operator=(const RasterCanvas&) = delete;
+
+  Single TextWidth(StringView text, const forms::FontSpec& font) override;
+  Single TextHeight(StringView text, const forms::FontSpec& font) override;
+  void Resize(Single width, Single height) override;
+  void Clear(Long colour) override;
+  void FillBox(Single x1, Single y1, Single x2, Single y2, Long colour) override;
+  void Box(Single x1, Single y1, Single x2, Single y2, Long colour) override;
+  void Line(Single x1, Single y1, Single x2, Single y2, Long colour) override;
+  void Text(Single x, Single y, StringView text, const forms::FontSpec& font,
+            Long colour) override;
+  PictureRef Snapshot() override;
+  void Paint(const Picture& picture, Single x, Single y) override;
+
+  int PixelWidth() const;
+  int PixelHeight() const;
+  // The colour of one pixel, 0x00BBGGRR.
+  Long ColourAt(int x, int y) const;
+
+ private:
+  struct Surface;
+  std::unique_ptr<Surface> surface_;
+};
+
+// Canvases for new picture controls, for a forms runtime drawn in pixels.
+forms::CanvasFactory RasterCanvasFactory();
+
+// The pixel that holds a point given in twips.
+int PixelOfTwips(double twips);
+
+}  // namespace ferlan::raster
