@@ -12,6 +12,7 @@ namespace {
 using Rows = std::array<std::string_view, kCaretBitmapHeight>;
 
 // K black, W white, Y yellow.
+// clang-format off
 constexpr Rows kInsertionRows = {
     "WWWWWKWWWWW",
     "WWWWKYKWWWW",
@@ -27,6 +28,7 @@ constexpr Rows kSurchargeRows = {
     "KKKKKKKKKKK",
     "KKKKKKKKKKK",
 };
+// clang-format on
 
 constexpr int kFileHeaderBytes = 14;
 constexpr int kInfoHeaderBytes = 40;
@@ -79,7 +81,9 @@ constexpr Image MakeBmp(const Rows& rows) {
     const int base = kPixelOffset + stored * kRowBytes;
     for (int x = 0; x < kCaretBitmapWidth; ++x) {
       const auto bgr = Bgr(row[static_cast<std::size_t>(x)]);
-      for (int c = 0; c < 3; ++c) out[static_cast<std::size_t>(base + x * 3 + c)] = bgr[static_cast<std::size_t>(c)];
+      for (std::size_t c = 0; c < 3; ++c) {
+        out[static_cast<std::size_t>(base + x * 3) + c] = bgr[c];
+      }
     }
   }
   return out;

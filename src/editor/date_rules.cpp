@@ -6,9 +6,7 @@ namespace ferlan {
 
 Boolean IsDateField(const EditState& e) { return e.TV == u"D"; }
 
-Boolean DateSeparatorDue(const EditState& e) {
-  return IsDateField(e) && (e.P == 3 || e.P == 6);
-}
+Boolean DateSeparatorDue(const EditState& e) { return IsDateField(e) && (e.P == 3 || e.P == 6); }
 
 void SkipDateSeparator(EditState& e, Integer direction) {
   if (IsDateField(e) && (e.P == 3 || e.P == 6)) e.P = AddInt(e.P, direction);

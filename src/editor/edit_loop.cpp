@@ -145,14 +145,14 @@ void BlankZone(EditState& e) {
 }
 
 void KySaisie::Modif(Single LT, Integer C, Single CT, Integer LCM, Single LzT, Single CzT,
-                     const String& TV, String& CH, Integer& TR, const String& IMS,
-                     Integer* Col, const String& Coul, PictureBoxRef KyFSubst, Single CaretX,
-                     Single CaretY) {
+                     const String& TV, String& CH, Integer& TR, const String& IMS, Integer* Col,
+                     const String& Coul, PictureBoxRef KyFSubst, Single CaretX, Single CaretY) {
   // Col is optional: when it is left out, its default 0 goes in and nothing
   // comes back.
   Integer absent_col = 0;
-  EditState e{State(), LT,  C,  CT,   LCM,  LzT,  CzT, TV, CH, TR, IMS,
-              Col ? *Col : absent_col, Coul, std::move(KyFSubst), CaretX, CaretY};
+  Integer& col = Col ? *Col : absent_col;
+  EditState e{State(), LT,    C, CT, LCM, LzT, CzT, TV, CH, TR, IMS, col, Coul, std::move(KyFSubst),
+              CaretX,  CaretY};
   SetUp(e);
   while (!e.Fin) {
     Scroll(e);

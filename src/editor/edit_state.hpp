@@ -15,34 +15,34 @@ struct EditState {
   ModuleState& st;
 
   // Arguments.
-  Single LT;     // top of the field, surface units
-  Integer C;     // grid column of the first character; scrolling only
-  Single CT;     // left edge of the text, surface units
-  Integer LCM;   // field length, or the columns taken with "Infini"
-  Single LzT;    // width of the zone to erase
-  Single CzT;    // left of the zone to erase
-  const String& TV;    // "D" date, "B" yes/no, anything else text
-  String& CH;          // the text
-  Integer& TR;         // the key that ended the edit
-  const String& IMS;   // entry mode
-  Integer& Col;        // caret start with "E"; caret position at the end
-  const String& Coul;  // colour code while edited
+  Single LT;               // top of the field, surface units
+  Integer C;               // grid column of the first character; scrolling only
+  Single CT;               // left edge of the text, surface units
+  Integer LCM;             // field length, or the columns taken with "Infini"
+  Single LzT;              // width of the zone to erase
+  Single CzT;              // left of the zone to erase
+  const String& TV;        // "D" date, "B" yes/no, anything else text
+  String& CH;              // the text
+  Integer& TR;             // the key that ended the edit
+  const String& IMS;       // entry mode
+  Integer& Col;            // caret start with "E"; caret position at the end
+  const String& Coul;      // colour code while edited
   PictureBoxRef KyFSubst;  // surface to draw on instead of Env.ZoneAff
   Single CaretX;
   Single CaretY;
 
   // Edit variables.
-  Integer LC = 0;     // field length
-  Integer CMax = 0;   // last grid column the field may reach
-  Integer NbVis = 0;  // characters shown at once
-  Integer Decal = 0;  // characters scrolled out on the left
-  Integer P = 0;      // caret position in CH
-  Integer LU = 0;     // used length as counted; only an estimate after some commands
+  Integer LC = 0;           // field length
+  Integer CMax = 0;         // last grid column the field may reach
+  Integer NbVis = 0;        // characters shown at once
+  Integer Decal = 0;        // characters scrolled out on the left
+  Integer P = 0;            // caret position in CH
+  Integer LU = 0;           // used length as counted; only an estimate after some commands
   Boolean Premier = false;  // the next character typed at position 1 blanks the field
   Boolean Fin = false;
-  String R{};          // character of the last key; the repeat key's default
-  Integer Code = 0;    // control key of the last key, 0 for a character
-  String TexteVu{};    // the part of the text now on the surface
+  String R{};        // character of the last key; the repeat key's default
+  Integer Code = 0;  // control key of the last key, 0 for a character
+  String TexteVu{};  // the part of the text now on the surface
   Boolean AvecSubst = false;
   PictureBoxRef ZoneGardee{};  // Env.ZoneAff on entry, when AvecSubst
 };
