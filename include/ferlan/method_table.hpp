@@ -3,6 +3,7 @@
 // Variants, as a host bound to the interface by name calls them.
 #pragma once
 
+#include <functional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -18,7 +19,7 @@ namespace ferlan {
 // Errors: 450 for too many arguments, 449 for a required one left out, 13
 // for an argument of the wrong type, 445 for a method not built yet, and
 // whatever the method itself raises.
-using Invoker = Variant (*)(KySaisie& self, std::vector<Variant>& args);
+using Invoker = std::function<Variant(KySaisie& self, std::vector<Variant>& args)>;
 
 struct MethodInfo {
   std::string_view name;  // UTF-8, accents kept

@@ -99,8 +99,9 @@ struct Apartment::State {
   Long sNbColonnes = 0;
   Long sLigneTable = 0;
   Integer sNbLignesTable = 0;
-  // Created at the first Modif that needs it.
-  std::unique_ptr<CaretForm> Feuille_Caret;
+  // Created at the first Modif that needs it. Shared, not unique, so that
+  // this header needs no complete CaretForm.
+  std::shared_ptr<CaretForm> Feuille_Caret;
 
   // External objects.
   External<ferlan::Env> Env{registry, "Env"};

@@ -1,0 +1,44 @@
+// Apartments: one module state per thread, current while its Apartment lives.
+#include <memory>
+
+#include "component/module_state.hpp"
+
+namespace ferlan {
+
+namespace {
+thread_local Apartment::State* current_state = nullptr;
+// The state of a thread that calls before making an apartment of its own.
+thread_local std::unique_ptr<Apartment::State> default_state;
+}  // namespace
+
+Apartment::State::State(ClassRegistry reg) : registry(std::move(reg)) {}
+Apartment::State::~State() = default;
+
+Apartment::Apartment(ClassRegistry registry)
+    : state_(std::make_unique<State>(std::move(registry))), previous_(current_state) {
+  current_state = state_.get();
+}
+
+Apartment::~Apartment() { current_state = previous_; }
+
+ModuleState& State() {
+  if (current_state) return *current_state;
+  if (!default_state) default_state = std::make_unique<Apartment::State>(ClassRegistry{});
+  return *default_state;
+}
+
+Form& CurrentForm(ModuleState& st) {
+  FormRef form = st.Env->KyF();
+  if (!form) throw PlatformError::ObjectNotSet();
+  return *form;
+}
+
+PictureBoxRef CurrentZoneRef(ModuleState& st) {
+  PictureBoxRef zone = st.Env->ZoneAff();
+  if (!zone) throw PlatformError::ObjectNotSet();
+  return zone;
+}
+
+PictureBox& CurrentZone(ModuleState& st) { return *CurrentZoneRef(st); }
+
+}  // namespace ferlan
