@@ -1,0 +1,84 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+
+#include "ferlan/method_table.hpp"
+#include "ferlan/methods_command.hpp"
+
+namespace ferlan {
+namespace {
+
+Long ErrorNumberOf(const std::function<void()>& fn) {
+  try {
+    fn();
+  } catch (const PlatformError& e) {
+    return e.Number();
+  }
+  return 0;
+}
+
+TEST(MethodTableTest, ListsTheNinetyThreeMethodsInInterfaceOrder) {
+  const char* expected[] = {
+      "IntercepteClavierKY", "GestKeyDown", "GestKeyPress", "ModifClavier",
+      "ClavierVirtuelToucheFonction", "ClavierVirtuel", "VideClavierVirtuel", "VideClavier",
+      "Modif", "Ctrl_C", "FnMot", "FormatDate", "Saisie", "ScanClavier", "Dorvi", "EcrSais",
+      "GénèreControl", "EffaceZoneSaisie", "EffaceLigneColT", "EffaceLignes", "EffaceLigne",
+      "RechRub", "CodeType", "DecodeType", "SaisDon", "ModD", "ModDT", "TrLogS", "TransLogS",
+      "TransSLog", "Sai", "SaiD", "SaiF", "SaisDonnee", "SaisL", "SaiLON", "ConsDon", "AffDon",
+      "PosAD", "MesAD", "ImageAD", "MesSD", "ImageSD", "MesSR", "PosAffRub", "PosAff",
+      "AffPos", "AffPosT", "AffBloc", "AffMesCoul", "TailleMesCoul", "LongMesCoul",
+      "AfficheBlocMes", "EspaceFeuille", "Centrage", "EffaceEcran", "MessageAttente",
+      "Attente", "InitKyF", "DimensionFeuille", "DimensionFeuilleLT", "MemEcr", "ResEcr",
+      "MemEcrSais", "ResEcrSais", "HauteurTexte", "WinLigne", "LigneWin", "LargeurTexte",
+      "WinCol", "ColWin", "NbLigne", "NbCol", "MesBasEcran", "AfficheCentre", "Affiche",
+      "AfficheColT", "AfficheT", "Aff", "AffLig", "AffL", "AffSL", "TraceColonne", "Titre",
+      "CouleurFond", "Couleur", "AffTab", "NLTab", "CTab", "LTab", "RechIdenTab",
+      "AfficheZoneMessage", "EffaceZoneMessage"};
+  const auto table = MethodTable();
+  ASSERT_EQ(table.size(), std::size(expected));
+  for (std::size_t i = 0; i < table.size(); ++i) {
+    EXPECT_EQ(table[i].name, expected[i]);
+    EXPECT_EQ(table[i].dispid, 0x60030000 + static_cast<Long>(i));
+  }
+  std::ostringstream out;
+  tool::PrintMethods(out);
+  EXPECT_EQ(out.str().substr(0, 31), "0x60030000 IntercepteClavierKY\n");
+  EXPECT_NE(out.str().find("0x6003005C EffaceZoneMessage\n"), std::string::npos);
+}
+
+TEST(MethodTableTest, InvokersCheckArgumentsAndWriteOutputsBack) {
+  Apartment apartment{ClassRegistry{}};
+  KySaisie k;
+  const MethodInfo* modif_clavier = FindMethod("ModifClavier");
+  ASSERT_NE(modif_clavier, nullptr);
+  std::vector<Variant> too_many{Long{65}, true, Long{1}};
+  EXPECT_EQ(ErrorNumberOf([&] { modif_clavier->invoke(k, too_many); }), 450);
+  std::vector<Variant> missing{Long{65}};
+  EXPECT_EQ(ErrorNumberOf([&] { modif_clavier->invoke(k, missing); }), 449);
+  std::vector<Variant> wrong_type{String(u"x"), true};
+  EXPECT_EQ(ErrorNumberOf([&] { modif_clavier->invoke(k, wrong_type); }), 13);
+  std::vector<Variant> out_of_range{Double{40000}, true};
+  EXPECT_EQ(ErrorNumberOf([&] { modif_clavier->invoke(k, out_of_range); }), 6);
+
+  // GestKeyPress takes the character and writes 0 back into KeyAscii.
+  std::vector<Variant> key{Long{97}};
+  FindMethod("GestKeyPress")->invoke(k, key);
+  EXPECT_EQ(std::get<Integer>(key[0]), 0);
+
+  // ScanClavier's R and A are outputs; the Ctrl+R repeat key hands R back.
+  std::vector<Variant> repeat{Long{2082}, false};
+  modif_clavier->invoke(k, repeat);
+  EXPECT_EQ(ErrorNumberOf([&] {
+              std::vector<Variant> scan{String(u"x"), false};
+              FindMethod("ScanClavier")->invoke(k, scan);
+            }),
+            429);  // no Global registered: the external object can't be created
+
+  std::vector<Variant> none;
+  EXPECT_EQ(ErrorNumberOf([&] { FindMethod("Dorvi")->invoke(k, none); }), 445);
+  EXPECT_EQ(FindMethod("NoSuchMethod"), nullptr);
+}
+
+}  // namespace
+}  // namespace ferlan
