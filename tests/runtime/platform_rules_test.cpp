@@ -86,7 +86,7 @@ TEST(PlatformRulesTest, TextsCountFromOneAndFixedFieldsPadAndCut) {
   EXPECT_EQ(InStr(1, u"abcabc", u"c"), 3);
   EXPECT_EQ(InStr(4, u"abcabc", u"c"), 6);
 
-  Fixed<3> code = u"N12";
+  Fixed<3> code{u"N12"};
   EXPECT_EQ(code.Text(), u"N12");
   code = u"A";
   EXPECT_EQ(code.Text(), u"A  ");
