@@ -1,12 +1,13 @@
-// Pictures from image files and pictures to PNG files.
+// Pictures from image files and pictures to PNG files, as the forms
+// runtime's Bitmap. BMP images are read by the forms runtime's own reader;
+// PNG is the raster back-end's (give DecodePng to Global::SetPngDecoder).
 //
 // Implemented:
-//  [X] BMP: 1, 4, 8 bits with a palette, 16 and 32 bits plain or with bit
-//      fields, 24 bits; bottom-up and top-down; OS/2 and Windows headers
 //  [X] PNG: any kind libpng reads, through Cairo; transparency is laid on white
-//  [X] PNG output of a pixel picture
+//  [X] BMP: what the forms runtime reads (24 and 32 bits, uncompressed)
+//  [X] PNG output of a bitmap
 // Missing:
-//  [ ] Run-length encoded BMP (raises "not built"), GIF, JPEG, icons, metafiles
+//  [ ] GIF, JPEG, icons, metafiles
 #pragma once
 
 #include <cstdint>
@@ -15,19 +16,22 @@
 #include <string>
 #include <vector>
 
-#include "raster/pixel_picture.hpp"
+#include "forms/bitmap.hpp"
 
 namespace ferlan::raster {
 
 // A picture from the bytes of a BMP or PNG image, told apart by their first
-// bytes. Anything else, or a damaged image, is an invalid call.
-std::shared_ptr<PixelPicture> DecodePicture(std::span<const std::uint8_t> bytes);
-std::shared_ptr<PixelPicture> LoadPictureFile(const std::string& path);
+// bytes. Errors: 5 for anything else or a damaged image.
+std::shared_ptr<forms::Bitmap> DecodePicture(std::span<const std::uint8_t> bytes);
+// Errors: 5 for a file that cannot be read, then as DecodePicture.
+std::shared_ptr<forms::Bitmap> LoadPictureFile(const std::string& path);
 
-std::shared_ptr<PixelPicture> DecodeBmp(std::span<const std::uint8_t> bytes);
-std::shared_ptr<PixelPicture> DecodePng(std::span<const std::uint8_t> bytes);
+// Errors: 5 for bytes that are not a whole PNG image.
+std::shared_ptr<forms::Bitmap> DecodePng(std::span<const std::uint8_t> bytes);
 
-std::vector<std::uint8_t> EncodePng(const PixelPicture& picture);
-void WritePngFile(const PixelPicture& picture, const std::string& path);
+// Errors: 5 for an empty bitmap, which PNG cannot hold; Host for a write
+// that fails.
+std::vector<std::uint8_t> EncodePng(const forms::Bitmap& bitmap);
+void WritePngFile(const forms::Bitmap& bitmap, const std::string& path);
 
 }  // namespace ferlan::raster

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "raster/picture_files.hpp"
+#include "raster/pixel_words.hpp"
 
 namespace ferlan::raster {
 
@@ -40,13 +41,11 @@ struct SurfaceDeleter {
 };
 using SurfacePtr = std::unique_ptr<cairo_surface_t, SurfaceDeleter>;
 
-// A Cairo surface that reads the picture's own pixels.
-SurfacePtr SurfaceOf(const PixelPicture& picture) {
-  // Cairo only reads a source surface; the cast drops a const it cannot take.
+// A Cairo surface over `words`, which must outlive it.
+SurfacePtr SurfaceOf(std::vector<std::uint32_t>& words, int width, int height) {
   SurfacePtr surface(cairo_image_surface_create_for_data(
-      reinterpret_cast<unsigned char*>(const_cast<std::uint32_t*>(picture.Pixels().data())),
-      CAIRO_FORMAT_RGB24, picture.PixelWidth(), picture.PixelHeight(),
-      picture.PixelWidth() * 4));
+      reinterpret_cast<unsigned char*>(words.data()), CAIRO_FORMAT_RGB24, width, height,
+      width * 4));
   cairo_status_t status = cairo_surface_status(surface.get());
   if (status != CAIRO_STATUS_SUCCESS) {
     throw PlatformError::Host("cairo", cairo_status_to_string(status));
@@ -56,7 +55,7 @@ SurfacePtr SurfaceOf(const PixelPicture& picture) {
 
 }  // namespace
 
-std::shared_ptr<PixelPicture> DecodePng(std::span<const std::uint8_t> bytes) {
+std::shared_ptr<forms::Bitmap> DecodePng(std::span<const std::uint8_t> bytes) {
   ByteSource source{bytes, 0};
   SurfacePtr surface(cairo_image_surface_create_from_png_stream(ReadBytes, &source));
   cairo_status_t status = cairo_surface_status(surface.get());
@@ -68,32 +67,30 @@ std::shared_ptr<PixelPicture> DecodePng(std::span<const std::uint8_t> bytes) {
   const int w = cairo_image_surface_get_width(surface.get());
   const int h = cairo_image_surface_get_height(surface.get());
   const int stride = cairo_image_surface_get_stride(surface.get());
-  const cairo_format_t format = cairo_image_surface_get_format(surface.get());
-  const unsigned char* data = cairo_image_surface_get_data(surface.get());
-  std::vector<std::uint32_t> pixels(static_cast<std::size_t>(w) * static_cast<std::size_t>(h));
-  for (int y = 0; y < h; ++y) {
-    for (int x = 0; x < w; ++x) {
-      std::uint32_t word = 0;
-      std::memcpy(&word, data + static_cast<std::ptrdiff_t>(y) * stride + 4 * x, 4);
-      std::uint32_t pixel = word & 0xFFFFFFu;
-      if (format == CAIRO_FORMAT_ARGB32) {
+  unsigned char* data = cairo_image_surface_get_data(surface.get());
+  if (cairo_image_surface_get_format(surface.get()) == CAIRO_FORMAT_ARGB32) {
+    for (int y = 0; y < h; ++y) {
+      for (int x = 0; x < w; ++x) {
+        unsigned char* at = data + static_cast<std::ptrdiff_t>(y) * stride + 4 * x;
+        std::uint32_t word = 0;
+        std::memcpy(&word, at, 4);
         // Premultiplied colour over white: c + (255 - alpha) a channel.
         const std::uint32_t rest = 255 - (word >> 24);
-        pixel = (((pixel >> 16 & 0xFF) + rest) << 16) | (((pixel >> 8 & 0xFF) + rest) << 8) |
-                ((pixel & 0xFF) + rest);
+        word = (((word >> 16 & 0xFF) + rest) << 16) | (((word >> 8 & 0xFF) + rest) << 8) |
+               ((word & 0xFF) + rest);
+        std::memcpy(at, &word, 4);
       }
-      pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(w) +
-             static_cast<std::size_t>(x)] = pixel;
     }
   }
-  return std::make_shared<PixelPicture>(w, h, std::move(pixels));
+  return BitmapOfWords(w, h, data, stride);
 }
 
-std::vector<std::uint8_t> EncodePng(const PixelPicture& picture) {
-  if (picture.PixelWidth() == 0 || picture.PixelHeight() == 0) {
+std::vector<std::uint8_t> EncodePng(const forms::Bitmap& bitmap) {
+  if (bitmap.PixelWidth() == 0 || bitmap.PixelHeight() == 0) {
     throw PlatformError::InvalidCall("an empty picture has no PNG form");
   }
-  SurfacePtr surface = SurfaceOf(picture);
+  std::vector<std::uint32_t> words = WordsOf(bitmap);
+  SurfacePtr surface = SurfaceOf(words, bitmap.PixelWidth(), bitmap.PixelHeight());
   std::vector<std::uint8_t> out;
   cairo_status_t status = cairo_surface_write_to_png_stream(surface.get(), AppendBytes, &out);
   if (status != CAIRO_STATUS_SUCCESS) {
@@ -102,8 +99,8 @@ std::vector<std::uint8_t> EncodePng(const PixelPicture& picture) {
   return out;
 }
 
-void WritePngFile(const PixelPicture& picture, const std::string& path) {
-  std::vector<std::uint8_t> png = EncodePng(picture);
+void WritePngFile(const forms::Bitmap& bitmap, const std::string& path) {
+  std::vector<std::uint8_t> png = EncodePng(bitmap);
   std::ofstream out(path, std::ios::binary | std::ios::trunc);
   out.write(reinterpret_cast<const char*>(png.data()), static_cast<std::streamsize>(png.size()));
   out.close();

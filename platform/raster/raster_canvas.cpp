@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "raster/glyph_cache.hpp"
-#include "raster/pixel_picture.hpp"
+#include "raster/pixel_words.hpp"
 
 namespace ferlan::raster {
 
@@ -135,21 +135,22 @@ void RasterCanvas::Resize(Single width, Single height) {
   cairo_set_source_surface(grown->cr, surface_->image, 0, 0);
   cairo_rectangle(grown->cr, 0, 0, std::min(w, surface_->width), std::min(h, surface_->height));
   cairo_fill(grown->cr);
+  cairo_set_source_rgb(grown->cr, 0, 0, 0);  // let go of the old image
   Check(cairo_status(grown->cr), "resizing a surface");
   surface_ = std::move(grown);
 }
 
 void RasterCanvas::Clear(Long colour) {
-  surface_->background = PixelOfColour(colour);
+  surface_->background = WordOfColour(colour);
   surface_->FillPixels(0, 0, surface_->width, surface_->height, surface_->background);
 }
 
 void RasterCanvas::FillBox(Single x1, Single y1, Single x2, Single y2, Long colour) {
-  surface_->FillCorners(x1, y1, x2, y2, PixelOfColour(colour));
+  surface_->FillCorners(x1, y1, x2, y2, WordOfColour(colour));
 }
 
 void RasterCanvas::Box(Single x1, Single y1, Single x2, Single y2, Long colour) {
-  std::uint32_t pixel = PixelOfColour(colour);
+  std::uint32_t pixel = WordOfColour(colour);
   Surface& s = *surface_;
   s.FillCorners(x1, y1, x2, y1, pixel);
   s.FillCorners(x1, y2, x2, y2, pixel);
@@ -158,7 +159,7 @@ void RasterCanvas::Box(Single x1, Single y1, Single x2, Single y2, Long colour) 
 }
 
 void RasterCanvas::Line(Single x1, Single y1, Single x2, Single y2, Long colour) {
-  std::uint32_t pixel = PixelOfColour(colour);
+  std::uint32_t pixel = WordOfColour(colour);
   Surface& s = *surface_;
   int px1 = PixelOfTwips(x1), py1 = PixelOfTwips(y1);
   int px2 = PixelOfTwips(x2), py2 = PixelOfTwips(y2);
@@ -177,7 +178,7 @@ void RasterCanvas::Text(Single x, Single y, StringView text, const forms::FontSp
                         Long colour) {
   Surface& s = *surface_;
   FontInstance& face = GlyphCache::ForThisThread().Instance(font.size, font.bold);
-  const std::uint32_t pixel = PixelOfColour(colour);
+  const std::uint32_t pixel = WordOfColour(colour);
   const int baseline =
       static_cast<int>(std::floor((y + face.AscentTwips()) / kTwipsPerPixel + 0.5));
   double pen = static_cast<double>(x);  // twips: the same sums as TextWidth
@@ -214,32 +215,26 @@ void RasterCanvas::Text(Single x, Single y, StringView text, const forms::FontSp
 PictureRef RasterCanvas::Snapshot() {
   Surface& s = *surface_;
   cairo_surface_flush(s.image);
-  std::vector<std::uint32_t> pixels(static_cast<std::size_t>(s.width) *
-                                    static_cast<std::size_t>(s.height));
-  for (int y = 0; y < s.height; ++y) {
-    const std::uint32_t* row = s.Row(y);
-    std::transform(row, row + s.width,
-                   pixels.begin() + static_cast<std::ptrdiff_t>(y) * s.width,
-                   [](std::uint32_t p) { return p & 0xFFFFFFu; });
-  }
-  return std::make_shared<PixelPicture>(s.width, s.height, std::move(pixels));
+  return BitmapOfWords(s.width, s.height, cairo_image_surface_get_data(s.image),
+                       cairo_image_surface_get_stride(s.image));
 }
 
 void RasterCanvas::Paint(const Picture& picture, Single x, Single y) {
-  const auto* pixels = dynamic_cast<const PixelPicture*>(&picture);
-  if (pixels == nullptr) throw PlatformError::InvalidCall("not a picture of pixels");
-  const int w = pixels->PixelWidth(), h = pixels->PixelHeight();
+  const auto* bitmap = dynamic_cast<const forms::Bitmap*>(&picture);
+  if (bitmap == nullptr) throw PlatformError::InvalidCall("not a picture of pixels");
+  const int w = bitmap->PixelWidth(), h = bitmap->PixelHeight();
   if (w == 0 || h == 0) return;
   Surface& s = *surface_;
-  // Cairo only reads a source; the cast drops a const it has no way to take.
+  std::vector<std::uint32_t> words = WordsOf(*bitmap);
   cairo_surface_t* source = cairo_image_surface_create_for_data(
-      reinterpret_cast<unsigned char*>(const_cast<std::uint32_t*>(pixels->Pixels().data())),
-      CAIRO_FORMAT_RGB24, w, h, w * 4);
+      reinterpret_cast<unsigned char*>(words.data()), CAIRO_FORMAT_RGB24, w, h, w * 4);
   Check(cairo_surface_status(source), "reading a picture");
   const int px = PixelOfTwips(x), py = PixelOfTwips(y);
   cairo_set_source_surface(s.cr, source, px, py);
   cairo_rectangle(s.cr, px, py, w, h);
   cairo_fill(s.cr);
+  // The context holds its source; let go of it before the words go.
+  cairo_set_source_rgb(s.cr, 0, 0, 0);
   cairo_surface_destroy(source);
   Check(cairo_status(s.cr), "painting a picture");
 }
@@ -252,7 +247,7 @@ Long RasterCanvas::ColourAt(int x, int y) const {
     throw PlatformError::SubscriptOutOfRange();
   }
   cairo_surface_flush(surface_->image);
-  return ColourOfPixel(surface_->Row(y)[x] & 0xFFFFFFu);
+  return ColourOfWord(surface_->Row(y)[x] & 0xFFFFFFu);
 }
 
 forms::CanvasFactory RasterCanvasFactory() {

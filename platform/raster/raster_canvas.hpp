@@ -8,7 +8,7 @@
 //      corners included, crisp (no anti-aliasing) on whole pixels
 //  [X] Text with its top left corner at (x, y), anti-aliased grey coverage
 //  [X] Resize keeping what was drawn at the top left
-//  [X] Snapshot to a PixelPicture; Paint of any PixelPicture
+//  [X] Snapshot to a forms Bitmap; Paint of any Bitmap (BMP, PNG, snapshot)
 // Missing:
 //  [ ] Italic, underline, other families: the surface has one font
 //  [ ] Line widths other than one pixel, dotted styles

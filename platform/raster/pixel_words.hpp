@@ -1,0 +1,33 @@
+// Pixels as Cairo's RGB24 images hold them: one 32-bit word each, 0x00RRGGBB
+// in native byte order. The raster back-end's conversions between those
+// words, the platform's colours (0x00BBGGRR) and the forms runtime's Bitmap.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "forms/bitmap.hpp"
+
+namespace ferlan::raster {
+
+inline constexpr int kTwipsPerPixel = 15;
+
+constexpr std::uint32_t WordOfColour(Long colour) {
+  auto c = static_cast<std::uint32_t>(colour);
+  return ((c & 0xFFu) << 16) | (c & 0xFF00u) | ((c >> 16) & 0xFFu);
+}
+constexpr Long ColourOfWord(std::uint32_t word) {
+  return static_cast<Long>(((word & 0xFFu) << 16) | (word & 0xFF00u) | ((word >> 16) & 0xFFu));
+}
+constexpr Long ColourOfRgb(forms::Rgb rgb) {
+  return static_cast<Long>(rgb.r | (rgb.g << 8) | (rgb.b << 16));
+}
+
+// The bitmap's pixels as words, rows top first, PixelWidth() words a row.
+std::vector<std::uint32_t> WordsOf(const forms::Bitmap& bitmap);
+// A bitmap from rows of words `stride` bytes apart; the top byte is ignored.
+std::shared_ptr<forms::Bitmap> BitmapOfWords(int width, int height, const unsigned char* data,
+                                             int stride);
+
+}  // namespace ferlan::raster
