@@ -1,0 +1,191 @@
+// Composes the form from its controls with Cairo, back to front, as the
+// window front-end would show it.
+#include "raster/form_picture.hpp"
+
+#include <cairo.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "raster/picture_files.hpp"
+#include "raster/pixel_words.hpp"
+#include "raster/raster_canvas.hpp"
+
+namespace ferlan::raster {
+
+namespace {
+
+// The platform's default colours of a form and its chrome, 0x00BBGGRR.
+constexpr Long kButtonFace = 0x00F0F0F0;
+constexpr Long kToolbarFace = 0x00E8E8E8;
+constexpr Long kShadow = 0x00A0A0A0;
+constexpr Long kDarkShadow = 0x00696969;
+
+int PixelsOf(Single twips) {
+  if (!(twips > 0)) return 0;
+  return static_cast<int>(std::ceil(static_cast<double>(twips) / kTwipsPerPixel - 1e-4));
+}
+
+void SetColour(cairo_t* cr, Long colour) {
+  const std::uint32_t w = WordOfColour(colour);
+  cairo_set_source_rgb(cr, ((w >> 16) & 0xFF) / 255.0, ((w >> 8) & 0xFF) / 255.0,
+                       (w & 0xFF) / 255.0);
+}
+
+void Fill(cairo_t* cr, int x, int y, int w, int h, Long colour) {
+  if (w <= 0 || h <= 0) return;
+  SetColour(cr, colour);
+  cairo_rectangle(cr, x, y, w, h);
+  cairo_fill(cr);
+}
+
+// A member of the form, or null when the form has none of that name.
+template <typename T>
+std::shared_ptr<T> OptionalMember(Form& form, std::string_view name) {
+  try {
+    return std::dynamic_pointer_cast<T>(form.Member(name));
+  } catch (const PlatformError& error) {
+    if (error.Number() == 438) return nullptr;
+    throw;
+  }
+}
+
+Long FormBackColour(Form& form) {
+  try {
+    return VariantToLong(form.GetProperty("BackColor"));
+  } catch (const PlatformError& error) {
+    if (error.Number() == 438) return kButtonFace;
+    throw;
+  }
+}
+
+// Draws `bitmap` with its top left at (x, y), scaled to w x h pixels with
+// whole pixels repeated, never blurred: the caret must stay crisp.
+void PaintBitmap(cairo_t* cr, const forms::Bitmap& bitmap, int x, int y, int w, int h) {
+  const int bw = bitmap.PixelWidth(), bh = bitmap.PixelHeight();
+  if (bw == 0 || bh == 0 || w <= 0 || h <= 0) return;
+  std::vector<std::uint32_t> words = WordsOf(bitmap);
+  cairo_surface_t* source = cairo_image_surface_create_for_data(
+      reinterpret_cast<unsigned char*>(words.data()), CAIRO_FORMAT_RGB24, bw, bh, bw * 4);
+  cairo_save(cr);
+  cairo_rectangle(cr, x, y, w, h);
+  cairo_clip(cr);
+  cairo_translate(cr, x, y);
+  cairo_scale(cr, static_cast<double>(w) / bw, static_cast<double>(h) / bh);
+  cairo_set_source_surface(cr, source, 0, 0);
+  cairo_pattern_set_filter(cairo_get_source(cr), CAIRO_FILTER_NEAREST);
+  cairo_paint(cr);
+  cairo_restore(cr);  // drops the source before its words go
+  cairo_surface_destroy(source);
+}
+
+const forms::Bitmap* AsBitmap(const PictureRef& picture) {
+  return dynamic_cast<const forms::Bitmap*>(picture.get());
+}
+
+// Where a picture control's inner area lies on the form, in pixels.
+struct Inner {
+  int x = 0;
+  int y = 0;
+  int w = 0;
+  int h = 0;
+};
+
+// A picture control at its place: its border, its canvas, its picture.
+Inner DrawPictureBox(cairo_t* cr, PictureBox& box, int origin_x, int origin_y) {
+  const int border = PixelOfTwips((box.Width() - box.ScaleWidth()) / 2);
+  const int left = origin_x + PixelOfTwips(box.Left());
+  const int top = origin_y + PixelOfTwips(box.Top());
+  Inner inner{left + border, top + border, PixelsOf(box.ScaleWidth()),
+              PixelsOf(box.ScaleHeight())};
+  if (border > 0) {
+    // A sunken single border: a grey line outside a dark one.
+    const int w = inner.w + 2 * border, h = inner.h + 2 * border;
+    Fill(cr, left, top, w, h, kShadow);
+    Fill(cr, left + 1, top + 1, w - 2, h - 2, kDarkShadow);
+  }
+  Fill(cr, inner.x, inner.y, inner.w, inner.h, box.BackColor());
+  PictureRef shown = box.Image();
+  if (const forms::Bitmap* drawn = AsBitmap(shown)) {
+    PaintBitmap(cr, *drawn, inner.x, inner.y, std::min(inner.w, drawn->PixelWidth()),
+                std::min(inner.h, drawn->PixelHeight()));
+  }
+  if (const forms::Bitmap* picture = AsBitmap(box.Picture())) {
+    PaintBitmap(cr, *picture, inner.x, inner.y, std::min(inner.w, picture->PixelWidth()),
+                std::min(inner.h, picture->PixelHeight()));
+  }
+  return inner;
+}
+
+void DrawCaret(cairo_t* cr, PictureBox& caret, const Inner& surface) {
+  const forms::Bitmap* picture = AsBitmap(caret.Picture());
+  const int w = caret.Width() > 0 ? PixelsOf(caret.Width()) : (picture ? picture->PixelWidth() : 0);
+  const int h =
+      caret.Height() > 0 ? PixelsOf(caret.Height()) : (picture ? picture->PixelHeight() : 0);
+  const int x = surface.x + PixelOfTwips(caret.Left());
+  const int y = surface.y + PixelOfTwips(caret.Top());
+  cairo_save(cr);
+  cairo_rectangle(cr, surface.x, surface.y, surface.w, surface.h);
+  cairo_clip(cr);
+  if (picture != nullptr) {
+    PaintBitmap(cr, *picture, x, y, w, h);
+  } else {
+    Fill(cr, x, y, w, h, caret.BackColor());
+  }
+  cairo_restore(cr);
+}
+
+}  // namespace
+
+std::shared_ptr<forms::Bitmap> ComposeForm(Form& form, PictureBox* surface) {
+  PictureBoxRef own_surface;
+  if (surface == nullptr) {
+    own_surface = std::dynamic_pointer_cast<PictureBox>(form.Member("ZoneAff"));
+    if (!own_surface) throw PlatformError::TypeMismatch("ZoneAff is not a picture control");
+    surface = own_surface.get();
+  }
+  const int width = PixelsOf(form.ScaleWidth());
+  const int height = PixelsOf(form.ScaleHeight());
+  std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)> owned_image(
+      cairo_image_surface_create(CAIRO_FORMAT_RGB24, width, height), &cairo_surface_destroy);
+  std::unique_ptr<cairo_t, decltype(&cairo_destroy)> owned_cr(cairo_create(owned_image.get()),
+                                                              &cairo_destroy);
+  cairo_surface_t* image = owned_image.get();
+  cairo_t* cr = owned_cr.get();
+  cairo_set_antialias(cr, CAIRO_ANTIALIAS_NONE);
+  Fill(cr, 0, 0, width, height, FormBackColour(form));
+
+  if (auto toolbar = OptionalMember<Control>(form, "BarreOutils"); toolbar && toolbar->Visible()) {
+    const int x = PixelOfTwips(toolbar->Left()), y = PixelOfTwips(toolbar->Top());
+    const int w = PixelsOf(toolbar->Width()), h = PixelsOf(toolbar->Height());
+    Fill(cr, x, y, w, h, kToolbarFace);
+    Fill(cr, x, y + h - 1, w, std::min(h, 1), kShadow);
+  }
+  Inner inner;
+  if (surface->Visible()) inner = DrawPictureBox(cr, *surface, 0, 0);
+  if (auto zone = OptionalMember<PictureBox>(form, "zoneMessage"); zone && zone->Visible()) {
+    DrawPictureBox(cr, *zone, 0, 0);
+  }
+  if (auto caret = OptionalMember<PictureBox>(form, "Caret");
+      caret && caret->Visible() && surface->Visible()) {
+    DrawCaret(cr, *caret, inner);
+  }
+
+  cairo_surface_flush(image);
+  const cairo_status_t status = cairo_status(cr);
+  if (status != CAIRO_STATUS_SUCCESS) {
+    throw PlatformError::Host("cairo", cairo_status_to_string(status));
+  }
+  return BitmapOfWords(width, height, cairo_image_surface_get_data(image),
+                       cairo_image_surface_get_stride(image));
+}
+
+void WriteFormPng(Form& form, const std::string& path, PictureBox* surface) {
+  WritePngFile(*ComposeForm(form, surface), path);
+}
+
+}  // namespace ferlan::raster

@@ -1,0 +1,39 @@
+// The form as a person sees it: its back colour, the toolbar when it shows,
+// the drawing surface at its place, the message zone and the caret where and
+// when they show. For `ferlan automate --surface raster` ({"png": "file"})
+// and for tests that check what the screen shows.
+//
+// Implemented:
+//  [X] the form's inner area (ScaleWidth x ScaleHeight), in its BackColor when
+//      the form has one by name, else the platform's button face (0x00F0F0F0)
+//  [X] "BarreOutils" when Visible: a plain strip with a rule under it
+//  [X] the surface: its border, what its canvas shows, its Picture on top
+//  [X] "zoneMessage" when Visible, drawn like the surface
+//  [X] "Caret" when Visible: its Picture stretched to its Width and Height
+//      (the picture's own size where those are 0), in the surface's scale,
+//      clipped to the surface, as a child control of the surface would be
+// Missing:
+//  [ ] the caption bar and window frame: the picture is the inner area only
+//  [ ] toolbar buttons: the toolbar has none yet
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "ferlan/host.hpp"
+#include "forms/bitmap.hpp"
+
+namespace ferlan::raster {
+
+// The picture of `form`. `surface` is the drawing surface (Env.ZoneAff); when
+// null it is the form's member "ZoneAff". Members "BarreOutils",
+// "zoneMessage" and "Caret" are optional here: a form without them shows
+// without them. Controls that are not drawn in pixels (a fixed-metric
+// canvas) show their back colour.
+std::shared_ptr<forms::Bitmap> ComposeForm(Form& form, PictureBox* surface = nullptr);
+
+// ComposeForm written as a PNG file. Errors: Host when the file cannot be
+// written.
+void WriteFormPng(Form& form, const std::string& path, PictureBox* surface = nullptr);
+
+}  // namespace ferlan::raster
