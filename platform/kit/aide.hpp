@@ -1,0 +1,21 @@
+// Aide: on-line help. Records the topic asked for and returns at once.
+#pragma once
+
+#include <memory>
+
+#include "ferlan/host.hpp"
+#include "kit/kit.hpp"
+
+namespace ferlan::kit {
+
+class Aide : public ferlan::Aide {
+ public:
+  explicit Aide(std::shared_ptr<Records> records) : records_(std::move(records)) {}
+
+  void Affiche(const String& Sujet) override { records_->help.push_back(Sujet); }
+
+ private:
+  std::shared_ptr<Records> records_;
+};
+
+}  // namespace ferlan::kit

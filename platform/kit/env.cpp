@@ -1,0 +1,133 @@
+// Late-bound members of the environment. One table names every member and the
+// field of EnvState behind it; GetProperty and SetProperty both read it, so a
+// member added to the table is reachable both ways at once.
+#include "kit/env.hpp"
+
+#include <algorithm>
+#include <array>
+#include <type_traits>
+#include <variant>
+
+namespace ferlan::kit {
+
+namespace {
+
+using Field = std::variant<Integer EnvState::*, Long EnvState::*, Single EnvState::*,
+                           Boolean EnvState::*, String EnvState::*, FormRef EnvState::*,
+                           PictureBoxRef EnvState::*>;
+
+struct Member {
+  std::string_view name;
+  Field field;
+};
+
+const std::array kMembers = {
+    Member{"KyF", &EnvState::form},
+    Member{"ZoneAff", &EnvState::surface},
+    Member{"CourantX", &EnvState::CourantX},
+    Member{"CourantY", &EnvState::CourantY},
+    Member{"MargeX", &EnvState::MargeX},
+    Member{"MargeY", &EnvState::MargeY},
+    Member{"TaillePolice", &EnvState::TaillePolice},
+    Member{"Noir", &EnvState::Noir},
+    Member{"Bleu", &EnvState::Bleu},
+    Member{"Marron", &EnvState::Marron},
+    Member{"CouleurB", &EnvState::CouleurB},
+    Member{"Gris", &EnvState::Gris},
+    Member{"GrisFonce", &EnvState::GrisFonce},
+    Member{"GrisClair", &EnvState::GrisClair},
+    Member{"Rouge", &EnvState::Rouge},
+    Member{"Jaune", &EnvState::Jaune},
+    Member{"Blanc", &EnvState::Blanc},
+    Member{"GrisTresClair", &EnvState::GrisTresClair},
+    Member{"ToucheF1", &EnvState::ToucheF1},
+    Member{"ToucheF12", &EnvState::ToucheF12},
+    Member{"ToucheGauche", &EnvState::ToucheGauche},
+    Member{"ToucheDroite", &EnvState::ToucheDroite},
+    Member{"ToucheHaut", &EnvState::ToucheHaut},
+    Member{"ToucheBas", &EnvState::ToucheBas},
+    Member{"TouchePageHaut", &EnvState::TouchePageHaut},
+    Member{"TouchePageBas", &EnvState::TouchePageBas},
+    Member{"ToucheEntree", &EnvState::ToucheEntree},
+    Member{"ToucheVide", &EnvState::ToucheVide},
+    Member{"ToucheRetour", &EnvState::ToucheRetour},
+    Member{"ToucheVirtuelle", &EnvState::ToucheVirtuelle},
+    Member{"SaisieOK", &EnvState::SaisieOK},
+    Member{"Abandon", &EnvState::Abandon},
+    Member{"RubCourante", &EnvState::RubCourante},
+    Member{"DateTitre", &EnvState::DateTitre},
+    Member{"CodeEnt", &EnvState::CodeEnt},
+    Member{"NomEnt", &EnvState::NomEnt},
+    Member{"SujetAide", &EnvState::SujetAide},
+    // Not members of the component's Env: what Entete.Texte and
+    // Fenetres.Active give, settable by name like the rest.
+    Member{"EnteteTexte", &EnvState::EnteteTexte},
+    Member{"FenetreActive", &EnvState::active_window},
+};
+
+char Lower(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
+
+// Late-bound names are matched without regard to case, as the platform does.
+bool SameName(std::string_view a, std::string_view b) {
+  return a.size() == b.size() &&
+         std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Lower(x) == Lower(y); });
+}
+
+const Member& Find(std::string_view name) {
+  for (const Member& m : kMembers) {
+    if (SameName(m.name, name)) return m;
+  }
+  throw PlatformError::MemberNotSupported(name);
+}
+
+}  // namespace
+
+Env::Env(std::shared_ptr<EnvState> state) : state_(std::move(state)) {}
+
+Variant Env::GetProperty(std::string_view name) {
+  EnvState& s = *state_;
+  return std::visit(
+      [&s](auto field) -> Variant {
+        const auto& value = s.*field;
+        using T = std::decay_t<decltype(value)>;
+        if constexpr (std::is_same_v<T, FormRef> || std::is_same_v<T, PictureBoxRef>) {
+          return ObjectRef(value);
+        } else {
+          return value;
+        }
+      },
+      Find(name).field);
+}
+
+void Env::SetProperty(std::string_view name, const Variant& value) {
+  EnvState& s = *state_;
+  std::visit(
+      [&s, &value](auto field) {
+        auto& target = s.*field;
+        using T = std::decay_t<decltype(target)>;
+        if constexpr (std::is_same_v<T, Integer>) {
+          target = VariantToInteger(value);
+        } else if constexpr (std::is_same_v<T, Long>) {
+          target = VariantToLong(value);
+        } else if constexpr (std::is_same_v<T, Single>) {
+          target = VariantToSingle(value);
+        } else if constexpr (std::is_same_v<T, Boolean>) {
+          target = VariantToBoolean(value);
+        } else if constexpr (std::is_same_v<T, String>) {
+          target = VariantToString(value);
+        } else if constexpr (std::is_same_v<T, FormRef>) {
+          target = VariantAs<Form>(value);
+        } else {
+          target = VariantAs<PictureBox>(value);
+        }
+      },
+      Find(name).field);
+}
+
+std::vector<std::string_view> EnvPropertyNames() {
+  std::vector<std::string_view> names;
+  for (const Member& m : kMembers) names.push_back(m.name);
+  return names;
+}
+
+}  // namespace ferlan::kit
