@@ -171,7 +171,9 @@ void RasterCanvas::Line(Single x1, Single y1, Single x2, Single y2, Long colour)
   cairo_move_to(s.cr, px1 + 0.5, py1 + 0.5);
   cairo_line_to(s.cr, px2 + 0.5, py2 + 0.5);
   cairo_stroke(s.cr);
-  s.FillPixels(px2, py2, 1, 1, pixel);  // both ends belong to the line
+  // Both ends belong to the line; a butt-capped stroke half covers them.
+  s.FillPixels(px1, py1, 1, 1, pixel);
+  s.FillPixels(px2, py2, 1, 1, pixel);
 }
 
 void RasterCanvas::Text(Single x, Single y, StringView text, const forms::FontSpec& font,
