@@ -1,0 +1,25 @@
+// The seam between the forms runtime and a front-end's events. A front-end
+// delivers its key events to the form's handlers and runs the timers it
+// made, both inside DoEvents only: that is the one point at which the host's
+// code runs while the component waits.
+#pragma once
+
+#include <functional>
+
+#include "ferlan/host.hpp"
+
+namespace ferlan::forms {
+
+class EventLoop {
+ public:
+  virtual ~EventLoop() = default;
+  // Delivers pending key events to the form's handlers and fires due timers,
+  // then returns. May be re-entered from a handler.
+  virtual void DoEvents() = 0;
+  // A stopped timer (Enabled False, Interval 0) whose on_tick runs inside
+  // DoEvents once it is enabled with an interval. The loop does not keep the
+  // timer alive: dropping the last reference stops it.
+  virtual TimerRef CreateTimer(std::function<void()> on_tick) = 0;
+};
+
+}  // namespace ferlan::forms

@@ -1,0 +1,46 @@
+// A timer: Enabled and Interval, and a tick that its event loop runs inside
+// DoEvents. As on the platform, enabling it or setting its interval starts
+// the count again from that moment.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "ferlan/host.hpp"
+
+namespace ferlan::forms {
+
+class Timer final : public ferlan::Timer {
+ public:
+  // Milliseconds on the event loop's clock.
+  using Clock = std::function<std::int64_t()>;
+
+  // Stopped (Enabled False, Interval 0) until the owner starts it.
+  Timer(std::function<void()> on_tick, Clock now);
+
+  Boolean Enabled() const override { return enabled_; }
+  void SetEnabled(Boolean v) override;
+  Long Interval() const override { return interval_; }
+  // Errors: 5 for a negative interval.
+  void SetInterval(Long v) override;
+
+  // Enabled, with an interval, that interval elapsed since the last start or
+  // tick, and not inside its own tick.
+  bool Due(std::int64_t now) const;
+  // Runs the tick and counts the next interval from `now`. A tick that calls
+  // DoEvents doesn't see its own timer fire again meanwhile.
+  void Fire(std::int64_t now);
+
+  Variant GetProperty(std::string_view name) override;
+  void SetProperty(std::string_view name, const Variant& value) override;
+
+ private:
+  std::function<void()> on_tick_;
+  Clock now_;
+  Boolean enabled_ = false;
+  Long interval_ = 0;
+  std::int64_t started_at_ = 0;
+  bool in_tick_ = false;
+};
+
+}  // namespace ferlan::forms

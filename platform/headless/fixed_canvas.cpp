@@ -1,0 +1,115 @@
+#include "headless/fixed_canvas.hpp"
+
+namespace ferlan::headless {
+
+namespace {
+
+std::string Number(Single v) { return ToUtf8(NumberText(v)); }
+
+std::string Corners(const DrawOp& op) {
+  return Number(op.x1) + " " + Number(op.y1) + " " + Number(op.x2) + " " + Number(op.y2);
+}
+
+DrawOp Shape(DrawOp::Kind kind, Single x1, Single y1, Single x2, Single y2, Long colour) {
+  DrawOp op;
+  op.kind = kind;
+  op.x1 = x1;
+  op.y1 = y1;
+  op.x2 = x2;
+  op.y2 = y2;
+  op.colour = colour;
+  return op;
+}
+
+}  // namespace
+
+std::string Describe(const DrawOp& op) {
+  switch (op.kind) {
+    case DrawOp::Kind::FillBox:
+      return "FillBox " + Corners(op) + " " + std::to_string(op.colour);
+    case DrawOp::Kind::Box:
+      return "Box " + Corners(op) + " " + std::to_string(op.colour);
+    case DrawOp::Kind::Line:
+      return "Line " + Corners(op) + " " + std::to_string(op.colour);
+    case DrawOp::Kind::Text:
+      return "Text " + Number(op.x1) + " " + Number(op.y1) + " " + std::to_string(op.colour) +
+             " " + Number(op.font.size) + (op.font.bold ? "b" : "") + " \"" + ToUtf8(op.text) +
+             "\"";
+    case DrawOp::Kind::Picture:
+      return "Picture " + Number(op.x1) + " " + Number(op.y1) + " " + Number(op.x2 - op.x1) +
+             " " + Number(op.y2 - op.y1);
+  }
+  return "?";
+}
+
+Single FixedCanvas::TextWidth(StringView text, const forms::FontSpec& font) {
+  return static_cast<Single>(kWidthPerPoint * font.size * static_cast<double>(text.size()));
+}
+
+Single FixedCanvas::TextHeight(StringView, const forms::FontSpec& font) {
+  return static_cast<Single>(kHeightPerPoint * font.size);
+}
+
+void FixedCanvas::Resize(Single width, Single height) {
+  width_ = width;
+  height_ = height;
+}
+
+void FixedCanvas::Clear(Long colour) {
+  background_ = colour;
+  ops_.clear();
+}
+
+void FixedCanvas::FillBox(Single x1, Single y1, Single x2, Single y2, Long colour) {
+  ops_.push_back(Shape(DrawOp::Kind::FillBox, x1, y1, x2, y2, colour));
+}
+
+void FixedCanvas::Box(Single x1, Single y1, Single x2, Single y2, Long colour) {
+  ops_.push_back(Shape(DrawOp::Kind::Box, x1, y1, x2, y2, colour));
+}
+
+void FixedCanvas::Line(Single x1, Single y1, Single x2, Single y2, Long colour) {
+  ops_.push_back(Shape(DrawOp::Kind::Line, x1, y1, x2, y2, colour));
+}
+
+void FixedCanvas::Text(Single x, Single y, StringView text, const forms::FontSpec& font,
+                       Long colour) {
+  DrawOp op = Shape(DrawOp::Kind::Text, x, y, x + TextWidth(text, font),
+                    y + TextHeight(text, font), colour);
+  op.text = String(text);
+  op.font = font;
+  ops_.push_back(std::move(op));
+}
+
+PictureRef FixedCanvas::Snapshot() {
+  return std::make_shared<DisplayListPicture>(width_, height_, background_, ops_);
+}
+
+void FixedCanvas::Paint(const Picture& picture, Single x, Single y) {
+  const Single right = x + picture.Width();
+  const Single bottom = y + picture.Height();
+  const auto* list = dynamic_cast<const DisplayListPicture*>(&picture);
+  if (!list) {
+    ops_.push_back(Shape(DrawOp::Kind::Picture, x, y, right, bottom, 0));
+    return;
+  }
+  if (x == 0 && y == 0 && right >= width_ && bottom >= height_) {
+    background_ = list->Background();
+    ops_ = list->Ops();
+    return;
+  }
+  ops_.push_back(Shape(DrawOp::Kind::FillBox, x, y, right, bottom, list->Background()));
+  for (DrawOp op : list->Ops()) {
+    op.x1 += x;
+    op.x2 += x;
+    op.y1 += y;
+    op.y2 += y;
+    ops_.push_back(std::move(op));
+  }
+}
+
+forms::CanvasFactory FixedCanvasFactory() {
+  return [] { return std::make_unique<FixedCanvas>(); };
+}
+
+}  // namespace ferlan::headless

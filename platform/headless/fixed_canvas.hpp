@@ -1,0 +1,90 @@
+// The fixed-metric canvas: exact numbers for tests and `ferlan automate`.
+// At Font.Size S a text is 19.5 x S high (also an empty one) and 10.5 x S
+// wide per UTF-16 unit, so at the default size 10 TextHeight(" ") is 195 and
+// TextWidth("T") is 105. Nothing is rasterised: the canvas keeps a display
+// list of what was drawn since the last Clear.
+//
+// Fakes: pixels. Snapshot gives a picture that holds the list, and painting
+// such a picture brings its list back; any other picture is recorded as one
+// Picture operation with its place and size only.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/canvas.hpp"
+
+namespace ferlan::headless {
+
+struct DrawOp {
+  enum class Kind { FillBox, Box, Line, Text, Picture };
+  Kind kind = Kind::FillBox;
+  Single x1 = 0;
+  Single y1 = 0;
+  Single x2 = 0;  // Picture: x + width
+  Single y2 = 0;  // Picture: y + height
+  Long colour = 0;
+  String text;           // Text only
+  forms::FontSpec font;  // Text only
+};
+
+// One line: "FillBox 0 0 105 195 16777215", "Text 105 312 0 10 \"ab\""
+// (colour, then size with a b when bold), "Picture 0 0 165 75".
+std::string Describe(const DrawOp& op);
+
+// What a Snapshot holds: the size, the colour cleared to, and the list.
+class DisplayListPicture final : public Picture {
+ public:
+  DisplayListPicture(Single width, Single height, Long background, std::vector<DrawOp> ops)
+      : width_(width), height_(height), background_(background), ops_(std::move(ops)) {}
+  Single Width() const override { return width_; }
+  Single Height() const override { return height_; }
+  Long Background() const { return background_; }
+  const std::vector<DrawOp>& Ops() const { return ops_; }
+
+ private:
+  Single width_;
+  Single height_;
+  Long background_;
+  std::vector<DrawOp> ops_;
+};
+
+class FixedCanvas final : public forms::Canvas {
+ public:
+  static constexpr double kHeightPerPoint = 19.5;
+  static constexpr double kWidthPerPoint = 10.5;
+
+  Single TextWidth(StringView text, const forms::FontSpec& font) override;
+  Single TextHeight(StringView text, const forms::FontSpec& font) override;
+  void Resize(Single width, Single height) override;
+  void Clear(Long colour) override;
+  void FillBox(Single x1, Single y1, Single x2, Single y2, Long colour) override;
+  void Box(Single x1, Single y1, Single x2, Single y2, Long colour) override;
+  void Line(Single x1, Single y1, Single x2, Single y2, Long colour) override;
+  void Text(Single x, Single y, StringView text, const forms::FontSpec& font,
+            Long colour) override;
+  PictureRef Snapshot() override;
+  // A snapshot painted at the origin over the whole canvas replaces the
+  // list with its own; elsewhere its back colour fills its box and its
+  // operations follow, moved by (x, y), since a picture is opaque.
+  void Paint(const Picture& picture, Single x, Single y) override;
+
+  Single Width() const { return width_; }
+  Single Height() const { return height_; }
+  Long Background() const { return background_; }
+  const std::vector<DrawOp>& Ops() const { return ops_; }
+  // The list, one Describe line each, each ending in a newline.
+  std::string DescribeOps() const;
+
+ private:
+  Single width_ = 0;
+  Single height_ = 0;
+  Long background_ = 0;
+  std::vector<DrawOp> ops_;
+};
+
+// Makes the canvas of each new picture control: a FixedCanvas.
+forms::CanvasFactory FixedCanvasFactory();
+
+}  // namespace ferlan::headless

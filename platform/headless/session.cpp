@@ -1,0 +1,82 @@
+#include "headless/session.hpp"
+
+#include "forms/control.hpp"
+#include "headless/key_interception.hpp"
+#include "kit/env.hpp"
+
+namespace ferlan::headless {
+
+Session::Session(forms::CanvasFactory canvas_factory)
+    : canvas_factory_(std::move(canvas_factory)),
+      loop_(clock_, keys_),
+      env_(std::make_shared<kit::EnvState>()),
+      records_(std::make_shared<kit::Records>()),
+      global_(std::make_shared<forms::Global>(loop_, forms::Screen(kScreenWidth, kScreenHeight))) {
+  if (!canvas_factory_) canvas_factory_ = FixedCanvasFactory();
+
+  form_ = std::make_shared<forms::Form>(kFormHandle, kScreenWidth, kScreenHeight);
+  form_->SetCaption(u"Ferlan");
+  form_->SetWidth(kFormWidth);
+  form_->SetHeight(kFormHeight);
+
+  auto toolbar = std::make_shared<forms::Toolbar>();
+  toolbar->SetHeight(kToolbarHeight);
+  toolbar->SetVisible(false);
+  form_->AddMember("BarreOutils", toolbar);
+
+  // The caret is as high as its pictures, 5 pixels; the component sets the
+  // rest.
+  auto caret = NewPictureBox();
+  caret->SetHeight(75);
+  caret->SetVisible(false);
+  form_->AddMember("Caret", caret);
+
+  auto message_zone = NewPictureBox();
+  message_zone->SetWidth(6000);
+  message_zone->SetHeight(600);
+  message_zone->SetVisible(false);
+  form_->AddMember("zoneMessage", message_zone);
+
+  form_->AddMember("ClavierKY", std::make_shared<KeyInterception>());
+
+  surface_ = NewPictureBox();
+  surface_->SetBorderStyle(1);
+  surface_->SetWidth(form_->ScaleWidth());
+  surface_->SetHeight(form_->ScaleHeight());
+  form_->AddMember("ZoneAff", surface_);
+
+  env_->form = form_;
+  env_->surface = surface_;
+  env_->active_window = form_->hWnd();
+
+  // As a host's form does: its key events go to the component.
+  form_->on_key_down = [](Integer& KeyCode, Integer Shift) {
+    KySaisie{}.GestKeyDown(KeyCode, Shift);
+  };
+  form_->on_key_press = [](Integer& KeyAscii) { KySaisie{}.GestKeyPress(KeyAscii); };
+  loop_.SetForm(form_);
+  loop_.SetAbandonWriter([env = env_](Boolean v) { env->Abandon = v; });
+
+  ClassRegistry registry;
+  kit::RegisterKit(registry, env_, records_);
+  recorder_ = std::make_shared<RecordingDessin>(
+      std::dynamic_pointer_cast<ferlan::Dessin>(registry.Create("Dessin")));
+  registry.Register("Dessin", [recorder = recorder_] { return recorder; });
+  registry.Register("Global", [global = global_] { return global; });
+  apartment_.emplace(std::move(registry));
+}
+
+Session::~Session() {
+  apartment_.reset();
+  // The form's handlers call into the component, which has ended.
+  form_->on_key_down = nullptr;
+  form_->on_key_press = nullptr;
+}
+
+ObjectRef Session::EnvObject() { return std::make_shared<kit::Env>(env_); }
+
+std::shared_ptr<forms::PictureBox> Session::NewPictureBox() {
+  return std::make_shared<forms::PictureBox>(canvas_factory_());
+}
+
+}  // namespace ferlan::headless

@@ -1,0 +1,47 @@
+// The fixture of every suite that runs the component: a fresh headless host
+// per test (its own apartment, environment, form and surface), with helpers
+// to type keys, pump the event loop, read the drawing log and check errors.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <functional>
+#include <source_location>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "headless/session.hpp"
+
+namespace ferlan::testing {
+
+class SessionTest : public ::testing::Test {
+ protected:
+  // Queues a key script for the next waits; gives how many items it queued.
+  // A bad script fails the test and queues nothing.
+  std::size_t Type(std::string_view script);
+  // Runs DoEvents `times` times.
+  void Pump(int times = 1);
+  // The Dessin calls since the last look, one a line ("EffaceRect 0 0 ...").
+  std::string TakeLog() { return session.Recorder().TakeLogText(); }
+
+  kit::EnvState& Env() { return session.Env(); }
+  forms::Form& Form() { return session.Form(); }
+  forms::PictureBox& Zone() { return session.Surface(); }
+
+  // On a failure, the key scripts typed so far are printed.
+  void TearDown() override;
+
+  headless::Session session;
+  std::vector<std::string> typed_;
+};
+
+// Runs `fn`, which must raise the platform error `number`. Its description
+// must be `text` when one is given, else the platform's text of that number
+// (with or without a detail after it).
+void ExpectPlatformError(const std::function<void()>& fn, Long number,
+                         std::string_view text = {},
+                         std::source_location where = std::source_location::current());
+
+}  // namespace ferlan::testing
