@@ -18,7 +18,7 @@ class Calcul : public ferlan::Calcul {
 
   Boolean Analyse(const String& Texte, String& Forme) override;
   // Resultat: the value with a point, up to 15 significant digits, no
-  // trailing zeros ("15", "15.2449017236474").
+  // trailing zeros ("15", "15.244901723741").
   Boolean Evalue(const String& Forme, String& Resultat) override;
 };
 

@@ -18,7 +18,7 @@ Double RoundDecimals(Double v, int decimals);
 String FixedText(Double v, int decimals);
 
 // `v` with at most `significant` significant digits and no trailing zeros
-// after the point: "15", "15.2449017236474", "0.001". Without exponent from
+// after the point: "15", "15.244901723741", "0.001". Without exponent from
 // 1e-20 up to below 1e21, with one ("1.5E+25") beyond. Not finite: as
 // FixedText.
 String ShortText(Double v, int significant);
