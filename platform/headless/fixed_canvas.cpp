@@ -108,6 +108,12 @@ void FixedCanvas::Paint(const Picture& picture, Single x, Single y) {
   }
 }
 
+std::string FixedCanvas::DescribeOps() const {
+  std::string text;
+  for (const DrawOp& op : ops_) text += Describe(op) + "\n";
+  return text;
+}
+
 forms::CanvasFactory FixedCanvasFactory() {
   return [] { return std::make_unique<FixedCanvas>(); };
 }

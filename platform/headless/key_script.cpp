@@ -120,7 +120,13 @@ class Parser {
       mask = static_cast<Integer>(mask | bit);
       rest = rest.substr(plus + 1);
     }
-    if (rest.size() == 1) return Typed(at, rest[0], mask);
+    if (rest.size() == 1) {
+      char16_t c = rest[0];
+      // After a prefix a letter names its key, as on the key cap: {Ctrl+B}
+      // is Ctrl and the B key, without Shift.
+      if (mask != 0 && c >= u'A' && c <= u'Z') c = static_cast<char16_t>(c - u'A' + u'a');
+      return Typed(at, c, mask);
+    }
     const std::string name = ToUtf8(rest);
     if (auto item = PressNamedKey(name, mask)) return *item;
     Fail(at, "unknown key {" + name + "}");

@@ -4,7 +4,9 @@
 //   {Enter} {Tab} {Esc} {Backspace} {Left} {Right} {Up} {Down} {Home} {End}
 //   {PgUp} {PgDn} {Insert} {Delete} {F1}..{F12} {CapsLock}
 //   {Shift+K} {Ctrl+K} {Alt+K}  prefixes in any combination before a key
-//                               name or one character: {Ctrl+Shift+Left}
+//                               name or one character: {Ctrl+Shift+Left};
+//                               a letter there names its key, so {Ctrl+B}
+//                               and {Ctrl+b} are alike and hold no Shift
 //   {{                    a typed "{"
 //   {down:K:S} {press:A}  a raw KeyDown(K, S) or KeyPress(A)
 //   {wait:N}              N ms pass with no key
