@@ -13,7 +13,7 @@
 
 namespace ferlan::tool {
 
-using Json = nlohmann::json;
+using Json = nlohmann::ordered_json;
 
 // Finds a named object for {"obj":"NAME"}; nullptr when there is none.
 using ObjectLookup = std::function<ObjectRef(const std::string& name)>;

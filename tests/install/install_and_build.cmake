@@ -1,0 +1,17 @@
+file(REMOVE_RECURSE ${WORK})
+function(run)
+  execute_process(COMMAND ${ARGN} RESULT_VARIABLE rc OUTPUT_VARIABLE out ERROR_VARIABLE err)
+  if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "failed: ${ARGN}\n${out}\n${err}")
+  endif()
+  set(last_output "${out}" PARENT_SCOPE)
+endfunction()
+
+run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK}/prefix)
+run(${CMAKE_COMMAND} -S ${HOST_SOURCE} -B ${WORK}/build -G Ninja
+    -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_PREFIX_PATH=${WORK}/prefix)
+run(${CMAKE_COMMAND} --build ${WORK}/build)
+run(${WORK}/build/host)
+if(NOT last_output STREQUAL "WinLigne(2.5) = 780\n")
+  message(FATAL_ERROR "unexpected output from the host: '${last_output}'")
+endif()

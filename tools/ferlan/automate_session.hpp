@@ -1,0 +1,51 @@
+// `ferlan automate`: one JSON request a line in, one answer a line out,
+// against a headless host session that `reset` replaces.
+#pragma once
+
+#include <iosfwd>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "ferlan/json_values.hpp"
+#include "ferlan/surface_choice.hpp"
+
+namespace ferlan::headless {
+class Session;
+}
+
+namespace ferlan::tool {
+
+class AutomateSession {
+ public:
+  explicit AutomateSession(SurfaceKind surface);
+  ~AutomateSession();
+
+  // The answer to one request line, without its line end. Never throws.
+  std::string Handle(std::string_view line);
+  // Answers every line of `in` on `out` until the end of the input.
+  void Run(std::istream& in, std::ostream& out);
+
+ private:
+  Json Call(const Json& request);
+  Json Keys(const Json& request);
+  Json Set(const Json& request);
+  Json Get(const Json& request);
+  Json New(const Json& request);
+  Json Log();
+  Json Png(const Json& request);
+  void Reset();
+
+  // The object a name prefix stands for in get/set and {"obj":...}.
+  ObjectRef ObjectNamed(const std::string& name);
+  std::string NameOf(const ObjectRef& object);
+  Variant GetValue(const std::string& path);
+  void SetValue(const std::string& path, const Json& value);
+
+  SurfaceKind surface_;
+  std::unique_ptr<headless::Session> session_;
+  std::map<std::string, ObjectRef> named_;  // objects made with `new`
+};
+
+}  // namespace ferlan::tool
