@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <cmath>
 #include <fstream>
-#include <iterator>
 #include <string>
 
 #include "raster/font_source.hpp"
@@ -32,11 +31,13 @@ FT_Face AsFace(void* face) { return static_cast<FT_Face>(face); }
 }
 
 std::vector<unsigned char> ReadFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::vector<unsigned char> bytes((std::istreambuf_iterator<char>(in)),
-                                   std::istreambuf_iterator<char>());
-  if (!in.eof() && !in) throw PlatformError::Host("freetype", "cannot read " + path);
-  if (bytes.empty()) throw PlatformError::Host("freetype", "cannot read " + path);
+  std::ifstream in(path, std::ios::binary | std::ios::ate);
+  const std::streamsize size = in ? static_cast<std::streamsize>(in.tellg()) : 0;
+  std::vector<unsigned char> bytes(static_cast<std::size_t>(std::max<std::streamsize>(size, 0)));
+  in.seekg(0);
+  if (size <= 0 || !in.read(reinterpret_cast<char*>(bytes.data()), size)) {
+    throw PlatformError::Host("freetype", "cannot read " + path);
+  }
   return bytes;
 }
 

@@ -29,7 +29,7 @@ void DrawLevel(kit::Dessin& dessin, forms::PictureBox& zone, int level) {
 
 TEST(DessinRasterTest, ResImageBringsBackWhatMemImageSaved) {
   RasterForm f;
-  kit::Dessin dessin(f.env);
+  kit::Dessin dessin(f.EnvRef());
   forms::PictureBox& zone = *f.surface;
   DrawLevel(dessin, zone, 0);
   const auto first = PixelsOf(zone);
@@ -43,7 +43,7 @@ TEST(DessinRasterTest, ResImageBringsBackWhatMemImageSaved) {
 
 TEST(DessinRasterTest, ThreeNestedSavesComeBackInReverseOrder) {
   RasterForm f;
-  kit::Dessin dessin(f.env);
+  kit::Dessin dessin(f.EnvRef());
   forms::PictureBox& zone = *f.surface;
   std::vector<std::vector<forms::Rgb>> shown;
   for (int level = 0; level < 3; ++level) {
@@ -65,7 +65,7 @@ TEST(DessinRasterTest, ThreeNestedSavesComeBackInReverseOrder) {
 TEST(DessinRasterTest, SavedPictureSurvivesAResizeInBetween) {
   // ResImage comes after the surface got back its saved size.
   RasterForm f;
-  kit::Dessin dessin(f.env);
+  kit::Dessin dessin(f.EnvRef());
   forms::PictureBox& zone = *f.surface;
   DrawLevel(dessin, zone, 1);
   const auto saved = PixelsOf(zone);

@@ -1,59 +1,44 @@
-// A form drawn in pixels for the raster tests: the kit's environment in a
-// fresh apartment, a 12000 x 9000 form with its toolbar, a bordered raster
-// surface, the caret and the message zone, all named as the component
-// reaches them.
+// A form drawn in pixels for the raster tests: a headless session whose
+// picture controls draw on raster canvases, with the surface moved inside the
+// form so that the form's own back colour shows around it.
 #pragma once
 
 #include <memory>
+#include <string_view>
 
-#include "ferlan/kysaisie.hpp"
 #include "forms/control.hpp"
 #include "forms/form.hpp"
 #include "forms/picture_box.hpp"
+#include "headless/session.hpp"
 #include "kit/kit.hpp"
 #include "raster/raster_canvas.hpp"
 
 namespace ferlan::raster {
 
-inline ClassRegistry KitRegistry(const std::shared_ptr<kit::EnvState>& env,
-                                 const std::shared_ptr<kit::Records>& records) {
-  ClassRegistry registry;
-  kit::RegisterKit(registry, env, records);
-  return registry;
-}
-
 struct RasterForm {
-  std::shared_ptr<kit::EnvState> env = std::make_shared<kit::EnvState>();
-  std::shared_ptr<kit::Records> records = std::make_shared<kit::Records>();
-  Apartment apartment{KitRegistry(env, records)};
-  std::shared_ptr<forms::Form> form = std::make_shared<forms::Form>(1, 24000, 18000);
-  std::shared_ptr<forms::Toolbar> toolbar = std::make_shared<forms::Toolbar>();
-  std::shared_ptr<forms::PictureBox> surface = NewPictureBox();
-  std::shared_ptr<forms::PictureBox> caret = NewPictureBox();
-  std::shared_ptr<forms::PictureBox> zone = NewPictureBox();
-
-  static std::shared_ptr<forms::PictureBox> NewPictureBox() {
-    return std::make_shared<forms::PictureBox>(std::make_unique<RasterCanvas>());
-  }
+  headless::Session session{RasterCanvasFactory()};
+  kit::EnvState* env = &session.Env();
+  std::shared_ptr<forms::Form> form = session.FormRef();
+  std::shared_ptr<forms::Toolbar> toolbar = Member<forms::Toolbar>("BarreOutils");
+  std::shared_ptr<forms::PictureBox> surface = session.SurfaceRef();
+  std::shared_ptr<forms::PictureBox> caret = Member<forms::PictureBox>("Caret");
+  std::shared_ptr<forms::PictureBox> zone = Member<forms::PictureBox>("zoneMessage");
 
   RasterForm() {
-    form->SetWidth(12000);
-    form->SetHeight(9000);
-    toolbar->SetHeight(420);
-    toolbar->SetVisible(false);
-    form->AddMember("BarreOutils", toolbar);
-    surface->SetBorderStyle(1);
     surface->SetLeft(300);
     surface->SetTop(600);
     surface->SetWidth(9060);  // 600 x 400 pixels inside a 2-pixel border
     surface->SetHeight(6060);
-    form->AddMember("ZoneAff", surface);
-    caret->SetVisible(false);
-    form->AddMember("Caret", caret);
-    zone->SetVisible(false);
-    form->AddMember("zoneMessage", zone);
-    env->form = form;
-    env->surface = surface;
+  }
+
+  // The session's environment for a kit object that wants to share it; valid
+  // while the session lives.
+  std::shared_ptr<kit::EnvState> EnvRef() const { return {std::shared_ptr<void>(), env}; }
+
+ private:
+  template <typename T>
+  std::shared_ptr<T> Member(std::string_view name) {
+    return std::dynamic_pointer_cast<T>(form->Member(name));
   }
 };
 
