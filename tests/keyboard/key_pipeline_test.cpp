@@ -1,0 +1,158 @@
+#include <gtest/gtest.h>
+
+#include "component/module_state.hpp"
+#include "ferlan/kysaisie.hpp"
+#include "support/session_test.hpp"
+
+namespace ferlan {
+namespace {
+
+using KeyPipelineTest = testing::SessionTest;
+
+struct Received {
+  String r;
+  Integer code;
+};
+
+// One wait for a key, as the field editor makes it.
+Received WaitForKey(String r = u"") {
+  Integer code = -1;
+  KySaisie{}.Saisie(r, &code);
+  return {r, code};
+}
+
+TEST_F(KeyPipelineTest, ScriptedKeysReachSaisieAsKeyCodes) {
+  struct Case {
+    const char* script;
+    Integer code;
+    const char16_t* r;
+  };
+  const Case cases[] = {
+      {"{Left}", 37, u""},           {"{Shift+Tab}", 1009, u""},
+      {"{Ctrl+Shift+Left}", 3037, u""}, {"{Alt+R}", 4082, u""},
+      {"{Shift+F1}", 1112, u""},      {"{Ctrl+B}", 0, u"\x02"},
+      {"{Shift+a}", 0, u"A"},         {"A", 0, u"A"},
+      {"{Ctrl+C}", 2067, u""},        {"{Ctrl+Shift+C}", 0, u"\x03"},
+      {"{Alt+C}", 4067, u""},         {"{Ctrl+End}", 2035, u""},
+      {"{Enter}", 13, u""},           {"\xC3\xA9", 0, u"\u00E9"},
+      {"\xE2\x82\xAC", 0, u"\u20AC"},
+  };
+  for (const Case& c : cases) {
+    Type(c.script);
+    const Received got = WaitForKey();
+    EXPECT_EQ(got.code, c.code) << c.script;
+    EXPECT_EQ(got.r, c.r) << c.script;
+  }
+}
+
+TEST_F(KeyPipelineTest, RepeatKeyHandsBackTheCallersCharacter) {
+  Type("{Ctrl+R}");
+  const Received got = WaitForKey(u"x");
+  EXPECT_EQ(got.code, 0);
+  EXPECT_EQ(got.r, u"x");
+}
+
+TEST_F(KeyPipelineTest, KeysThatStoreNothingLeaveTheWaitRunning) {
+  // Caps Lock alone, KeyCode 0 with the KeyPress that follows, and Shift
+  // alone store nothing; the wait then takes the next real key.
+  Type("{CapsLock}{down:0:0}{press:97}{down:16:1}z");
+  const Received got = WaitForKey();
+  EXPECT_EQ(got.r, u"z");
+  EXPECT_EQ(got.code, 0);
+}
+
+TEST_F(KeyPipelineTest, ShiftAloneLeavesToucheVirtuelleWhileCtrlAloneClearsIt) {
+  KySaisie k;
+  Integer shift_key = 16;
+  Env().ToucheVirtuelle = true;
+  k.GestKeyDown(shift_key, 1);
+  EXPECT_TRUE(Env().ToucheVirtuelle);
+  EXPECT_EQ(shift_key, 16);
+  Integer ctrl_key = 17;
+  k.GestKeyDown(ctrl_key, 2);
+  EXPECT_FALSE(Env().ToucheVirtuelle);
+  EXPECT_EQ(ctrl_key, 17);
+  EXPECT_FALSE(State().ToucheTraitee);
+
+  Integer caps = 20;
+  k.GestKeyDown(caps, 0);
+  EXPECT_EQ(caps, 0);
+  Integer caps_with_shift = 20;
+  k.GestKeyDown(caps_with_shift, 1);
+  EXPECT_EQ(caps_with_shift, 20);
+
+  // Ctrl+Alt+E is no chord: its character goes through KeyPress.
+  Integer e_key = 69;
+  k.GestKeyDown(e_key, 6);
+  Integer euro = 128;
+  k.GestKeyPress(euro);
+  EXPECT_EQ(euro, 0);
+  EXPECT_EQ(State().ToucheEnAttente, 128);
+  EXPECT_TRUE(State().EstCaractere);
+}
+
+TEST_F(KeyPipelineTest, CharacterAbove255WaitsUntilAnotherKeyReplacesIt) {
+  Type("\xE4\xB8\xAD{wait:5}q");  // a character outside the code page, then q
+  const std::int64_t start = session.Clock().Now();
+  const Received got = WaitForKey();
+  EXPECT_EQ(got.r, u"q");
+  EXPECT_GE(session.Clock().Now() - start, 6);
+}
+
+TEST_F(KeyPipelineTest, KeyBeforeTheWaitIsLostAndTheLastOfOneDoEventsWins) {
+  KySaisie k;
+  k.ModifClavier(65, true);  // pending before Saisie: cleared when it starts
+  Form().on_key_down = [&](Integer&, Integer) {
+    k.ModifClavier(97, true);
+    k.ModifClavier(98, true);
+  };
+  Type("{down:90:0}");
+  const Received got = WaitForKey();
+  EXPECT_EQ(got.r, u"b");
+}
+
+TEST_F(KeyPipelineTest, AbandonEndsTheWaitWithCodeZero) {
+  Env().Abandon = true;
+  const std::int64_t before = session.Clock().Now();
+  const Received got = WaitForKey(u"r");
+  EXPECT_EQ(got.code, 0);
+  EXPECT_EQ(got.r, u"r");
+  EXPECT_EQ(session.Clock().Now(), before) << "no DoEvents when Abandon is set on entry";
+
+  Env().Abandon = false;
+  Type("{wait:3}{abandon}x");
+  const Received abandoned = WaitForKey();
+  EXPECT_EQ(abandoned.code, 0);
+  EXPECT_EQ(abandoned.r, u"");
+  EXPECT_EQ(State().ToucheEnAttente, 0);
+}
+
+TEST_F(KeyPipelineTest, EmptyScriptStarvesAfterTenSecondsOfVirtualTime) {
+  session.BeginCall();
+  const std::int64_t before = session.Clock().Now();
+  const Received got = WaitForKey();
+  EXPECT_EQ(got.code, 0);
+  EXPECT_TRUE(session.EndCall());
+  EXPECT_EQ(session.Clock().Now() - before, 10000);
+}
+
+TEST_F(KeyPipelineTest, VideClavierRunsNoDoEventsWhenNothingIsPending) {
+  KySaisie k;
+  const std::int64_t before = session.Clock().Now();
+  k.VideClavier();
+  EXPECT_EQ(session.Clock().Now(), before);
+  k.ModifClavier(2067, false);
+  k.VideClavier();
+  EXPECT_EQ(session.Clock().Now(), before + 1);
+  EXPECT_EQ(State().ToucheEnAttente, 0);
+}
+
+TEST_F(KeyPipelineTest, InterceptionIsWrittenOnTheFormsObjectByName) {
+  KySaisie{}.IntercepteClavierKY(true);
+  EXPECT_EQ(std::get<Boolean>(Form().Member("ClavierKY")->GetProperty("Interception")), true);
+  Env().form = nullptr;
+  testing::ExpectPlatformError([] { KySaisie{}.IntercepteClavierKY(false); }, 91);
+}
+
+}  // namespace
+}  // namespace ferlan
