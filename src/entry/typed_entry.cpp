@@ -31,12 +31,12 @@ String EditorMode(Integer NB, const String& T) {
 
 }  // namespace
 
-void KySaisie::ModD(String& M, String TYP, Integer L, Integer C, Single CT, Integer LC,
-                    Integer& TR, Long LzT, Long CzT, String IMS, Long* ORDREDATE,
-                    const String& LRacAutoNb, const String& Coul) {
+void KySaisie::ModD(String& M, String TYP, Integer L, Integer C, Single CT, Integer LC, Integer& TR,
+                    Long LzT, Long CzT, String IMS, Long* ORDREDATE, const String& LRacAutoNb,
+                    const String& Coul) {
   Integer col = 0;
-  ModDT(M, std::move(TYP), WinLigne(L), C, CT, LC, TR, LzT, CzT, std::move(IMS), ORDREDATE,
-        LRacAutoNb, Coul, nullptr, 0, 0, &col);
+  KySaisie{}.ModDT(M, std::move(TYP), KySaisie{}.WinLigne(L), C, CT, LC, TR, LzT, CzT,
+                   std::move(IMS), ORDREDATE, LRacAutoNb, Coul, nullptr, 0, 0, &col);
 }
 
 void KySaisie::ModDT(String& M, String TYP, Single LT, Integer C, Single CT, Integer LC,
@@ -45,7 +45,7 @@ void KySaisie::ModDT(String& M, String TYP, Single LT, Integer C, Single CT, Int
                      Single CaretX, Single CaretY, Integer* Col) {
   ModuleState& st = State();
 
-  if (LzT == 0) LzT = CLng(WinCol(AddInt(LC, 2)));
+  if (LzT == 0) LzT = CLng(KySaisie{}.WinCol(AddInt(LC, 2)));
   if (CzT == 0) CzT = CLng(CT);
 
   // The stored form as the caller gave it: what an abandoned entry returns.
@@ -55,7 +55,7 @@ void KySaisie::ModDT(String& M, String TYP, Single LT, Integer C, Single CT, Int
   String T = TYP;
   Integer NB = 0;
   Integer ND = 0;
-  DecodeType(M, T, NB, ND);
+  KySaisie{}.DecodeType(M, T, NB, ND);
 
   // A number may be an expression longer than its box: let it scroll.
   if (IMS == u"F" && NB != 0) IMS = u"Infini";
@@ -75,8 +75,8 @@ void KySaisie::ModDT(String& M, String TYP, Single LT, Integer C, Single CT, Int
   while (result_to_confirm || !st.Env->SaisieOK()) {
     result_to_confirm = false;
 
-    Modif(LT, C, CT, LC, static_cast<Single>(LzT), static_cast<Single>(CzT), TV, M, TR, IMS,
-          Col, Coul, KyFSubst, CaretX, CaretY);
+    KySaisie{}.Modif(LT, C, CT, LC, static_cast<Single>(LzT), static_cast<Single>(CzT), TV, M, TR,
+                     IMS, Col, Coul, KyFSubst, CaretX, CaretY);
     order = 0;
 
     // Modif returns at once, with TR 0, while Env.Abandon holds, so no text
@@ -114,11 +114,11 @@ void KySaisie::ModDT(String& M, String TYP, Single LT, Integer C, Single CT, Int
     // Leaving an unacceptable text: the old value comes back, on screen as
     // far as the field's width goes, and whole in M.
     M = Ancien;
-    AfficheT(CLng(LT), CT, u"N", Left(M, LC));
+    KySaisie{}.AfficheT(CLng(LT), CT, u"N", Left(M, LC));
     st.Env->SetSaisieOK(true);
   }
 
-  CodeType(M, T, NB);
+  KySaisie{}.CodeType(M, T, NB);
 }
 
 }  // namespace ferlan
