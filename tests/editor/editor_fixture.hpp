@@ -20,6 +20,7 @@ struct Field {
   String ims = u"F";
   Integer col = 0;
   String coul = u"B";
+  Integer c = 5;  // grid column: only the scrolling uses it
 };
 
 // What the caller has after the edit.
@@ -31,9 +32,9 @@ struct Outcome {
 
 class EditorTest : public SessionTest {
  protected:
-  // The field's place: line 2, column 5 of the fixed-metric grid.
+  // The field's place: line 2, column 5 of the fixed-metric grid (the
+  // column is Field::c).
   static constexpr Single kLT = 624;
-  static constexpr Integer kC = 5;
   static constexpr Single kCT = 525;
   static constexpr Single kCzT = 420;
   static constexpr Single kLzT = 2520;
@@ -42,7 +43,7 @@ class EditorTest : public SessionTest {
   Outcome Edit(const Field& field, std::string_view keys) {
     Type(keys);
     Outcome out{field.ch, 0, field.col};
-    KySaisie{}.Modif(kLT, kC, kCT, field.lcm, kLzT, kCzT, field.tv, out.ch, out.tr, field.ims,
+    KySaisie{}.Modif(kLT, field.c, kCT, field.lcm, kLzT, kCzT, field.tv, out.ch, out.tr, field.ims,
                      &out.col, field.coul);
     return out;
   }
