@@ -61,6 +61,14 @@ struct EntryResult {
   Long ordre = -1;
 };
 
+// How the field is called, beyond its value and code: roots, width in
+// columns, entry mode.
+struct Call {
+  String roots = u"[]";
+  Integer lc = 10;
+  String ims = u"F";
+};
+
 class EntryTest : public SessionTest {
  protected:
   // The field: line 2 (LT 624), column 5 (CT 525), 10 columns wide.
@@ -68,14 +76,16 @@ class EntryTest : public SessionTest {
   static constexpr Single kLT = 624;
   static constexpr Integer kC = 5;
   static constexpr Single kCT = 525;
-  static constexpr Integer kLC = 10;
+  static constexpr Integer kLC = 10;  // as Call's default
 
   // Queues `keys`, then runs ModDT on the field with `stored` and `typ`.
+  // Env.SaisieOK is True on return in every case.
   EntryResult Enter(const String& stored, const String& typ, std::string_view keys,
-                    const String& roots = u"[]") {
-    Type(keys);
+                    const Call& call = {}) {
+    if (!keys.empty()) Type(keys);
     EntryResult r{stored, -1, -1};
-    KySaisie{}.ModDT(r.m, typ, kLT, kC, kCT, kLC, r.tr, 0, 0, u"F", &r.ordre, roots);
+    KySaisie{}.ModDT(r.m, typ, kLT, kC, kCT, call.lc, r.tr, 0, 0, call.ims, &r.ordre, call.roots);
+    EXPECT_TRUE(Env().SaisieOK) << "Env.SaisieOK after the entry";
     return r;
   }
 

@@ -106,8 +106,8 @@ TEST_F(TypeCodeTest, YesNoShowsOuiOnlyForO) {
   const struct {
     const char16_t* stored;
     const char16_t* shown;
-  } cases[] = {{u"O", u"OUI"}, {u"o", u"OUI"}, {u"O  ", u"OUI"}, {u"N", u"NON"},
-               {u"   ", u"NON"}, {u"", u"NON"}, {u"OUI", u"NON"}, {u"x", u"NON"}};
+  } cases[] = {{u"O", u"OUI"},   {u"o", u"OUI"}, {u"O  ", u"OUI"}, {u"N", u"NON"},
+               {u"   ", u"NON"}, {u"", u"NON"},  {u"OUI", u"NON"}, {u"x", u"NON"}};
   for (const auto& c : cases) {
     SCOPED_TRACE(ToUtf8(c.stored));
     EXPECT_EQ(ToUtf8(Decode(c.stored, u"B").c), ToUtf8(c.shown));
@@ -159,10 +159,11 @@ TEST_F(TypeCodeTest, StoredFormsComeBackThroughDecodeType) {
     const char16_t* typ;
     const char16_t* shown;
   } cases[] = {
-      {u"I0", u"0"},      {u"I0", u"256"},        {u"I0", u"-256"},      {u"I0", u"32767"},
-      {u"I0", u"-32767"}, {u"I2", u"12.00"},      {u"S2", u"0.00"},      {u"S2", u"1.50"},
-      {u"S2", u"-2.00"},  {u"S0", u"65536"},      {u"D2", u"100.00"},    {u"D2", u"15.24"},
-      {u"D0", u"0"},      {u"D4", u"-1234.5678"}, {u"D2", u"9999999999999.99"},
+      {u"I0", u"0"},     {u"I0", u"256"},        {u"I0", u"-256"},
+      {u"I0", u"32767"}, {u"I0", u"-32767"},     {u"I2", u"12.00"},
+      {u"S2", u"0.00"},  {u"S2", u"1.50"},       {u"S2", u"-2.00"},
+      {u"S0", u"65536"}, {u"D2", u"100.00"},     {u"D2", u"15.24"},
+      {u"D0", u"0"},     {u"D4", u"-1234.5678"}, {u"D2", u"9999999999999.99"},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(ToUtf8(c.typ) + " " + ToUtf8(c.shown));
