@@ -238,5 +238,28 @@ TEST_F(TypedEntryTest, ModDPlacesTheFieldOnItsLine) {
   EXPECT_TRUE(on_line);
 }
 
+// The loop's flag lives in the environment: a host handler that runs during
+// the wait (here a timer of the host) reads it there. It is False while a
+// text waits to be accepted, stays True from the calculator's success while
+// its result waits for confirmation, and is True on return.
+TEST_F(TypedEntryTest, HostReadsTheLoopFlagInEnvDuringTheWait) {
+  std::vector<bool> seen;
+  TimerRef timer = session.Global().CreateTimer([&] { seen.push_back(Env().SaisieOK); });
+  timer->SetInterval(1);
+  timer->SetEnabled(true);
+
+  Env().SaisieOK = true;
+  Enter(StoredInteger(5), u"I0", "{wait:3}abc{Enter}{wait:3}{Up}");
+  ASSERT_FALSE(seen.empty());
+  for (bool ok : seen) EXPECT_FALSE(ok);
+
+  seen.clear();
+  const EntryResult r = Enter(StoredInteger(5), u"I0", "1+1{Enter}{wait:3}{Enter}");
+  ExpectStored(r, StoredInteger(2), 13);
+  ASSERT_GE(seen.size(), 4U);
+  EXPECT_FALSE(seen.front());
+  for (std::size_t i = seen.size() - 3; i < seen.size(); ++i) EXPECT_TRUE(seen[i]) << i;
+}
+
 }  // namespace
 }  // namespace ferlan::testing
