@@ -37,10 +37,10 @@ TEST_F(TypeCodeTest, CodeLengthDecidesFamilyLetterAndDecimals) {
       {u"I2", StoredInteger(7), -1, 2, u"I", u"7.00"},
       {u"S2", StoredSingle(1.5F), -1, 2, u"S", u"1.50"},
       {u"D2", StoredDouble(2.125), -1, 2, u"D", u"2.13"},
-      {u"D0", StoredDouble(41.5), -1, 0, u"D", u"42"},
+      {u"D0", StoredDouble(41.5), -1, 0, u"D", u"42"},  // a real, not a date
       {u"N2", u"12.5   ", -1, 2, u"N", u"12.50"},
       {u"N12", u"3", -1, 12, u"N", u"3.000000000000"},
-      {u"D", u"01/02/2003  ", 0, 99, u"D", u"01/02/2003"},
+      {u"D", u"01/02/2003  ", 0, 99, u"D", u"01/02/2003"},  // a date
       {u"A", u"  texte  ", 0, 99, u"A", u"  texte"},
   };
   for (const Case& c : cases) {
@@ -52,21 +52,6 @@ TEST_F(TypeCodeTest, CodeLengthDecidesFamilyLetterAndDecimals) {
     EXPECT_EQ(ToUtf8(d.c), ToUtf8(c.shown));
   }
   EXPECT_TRUE(session.Records().reports.empty());
-}
-
-TEST_F(TypeCodeTest, DateAloneIsTextButDZeroIsAnEightByteReal) {
-  const Decoded date = Decode(u"14/07/1989", u"D");
-  EXPECT_EQ(date.nb, 0);
-  EXPECT_EQ(ToUtf8(date.c), "14/07/1989");
-
-  const Decoded real = Decode(StoredDouble(-3.0), u"D0");
-  EXPECT_EQ(real.nb, -1);
-  EXPECT_EQ(real.nd, 0);
-  EXPECT_EQ(ToUtf8(real.c), "-3");
-  String back = real.c;
-  KySaisie{}.CodeType(back, real.typ, real.nb);
-  EXPECT_EQ(back.size(), 8U);
-  EXPECT_EQ(back, StoredDouble(-3.0));
 }
 
 TEST_F(TypeCodeTest, UnknownPlainLetterReportsNumber55AndTrims) {
@@ -177,21 +162,6 @@ TEST_F(TypeCodeTest, StoredFormsComeBackThroughDecodeType) {
     const Decoded again = Decode(stored, c.typ);
     EXPECT_EQ(ToUtf8(again.c), ToUtf8(c.shown)) << "stored as " << Show(stored);
   }
-}
-
-// Decoding changes its code argument: a second decode with the same
-// variable sees a one-letter code, the plain family.
-TEST_F(TypeCodeTest, DecodingTwiceWithTheSameCodeVariableChangesFamily) {
-  String typ = u"D2";
-  Integer nb = 0;
-  Integer nd = 0;
-  String c = StoredDouble(5);
-  KySaisie{}.DecodeType(c, typ, nb, nd);
-  EXPECT_EQ(nb, -1);
-  c = u"01/01/2000";
-  KySaisie{}.DecodeType(c, typ, nb, nd);
-  EXPECT_EQ(nb, 0);
-  EXPECT_EQ(ToUtf8(c), "01/01/2000");
 }
 
 }  // namespace
