@@ -24,20 +24,20 @@ using PatternPtr = std::unique_ptr<FcPattern, PatternDeleter>;
 
 const FcChar8* Fc(const char* s) { return reinterpret_cast<const FcChar8*>(s); }
 
-std::string FindFile(bool bold) {
+std::string FindFile(FcConfig* config, bool bold) {
   PatternPtr pattern(FcPatternCreate());
   if (!pattern) throw PlatformError::Host("fontconfig", "out of memory");
   FcPatternAddString(pattern.get(), FC_FAMILY, Fc(kFamily.data()));
   FcPatternAddInteger(pattern.get(), FC_WEIGHT, bold ? FC_WEIGHT_BOLD : FC_WEIGHT_REGULAR);
   FcPatternAddInteger(pattern.get(), FC_SLANT, FC_SLANT_ROMAN);
   FcPatternAddBool(pattern.get(), FC_SCALABLE, FcTrue);
-  if (!FcConfigSubstitute(nullptr, pattern.get(), FcMatchPattern)) {
+  if (!FcConfigSubstitute(config, pattern.get(), FcMatchPattern)) {
     throw PlatformError::Host("fontconfig", "out of memory");
   }
   FcDefaultSubstitute(pattern.get());
 
   FcResult result = FcResultNoMatch;
-  PatternPtr match(FcFontMatch(nullptr, pattern.get(), &result));
+  PatternPtr match(FcFontMatch(config, pattern.get(), &result));
   FcChar8* family = nullptr;
   FcChar8* file = nullptr;
   int weight = 0;
@@ -55,15 +55,28 @@ std::string FindFile(bool bold) {
 
 }  // namespace
 
+FontFiles FindDejaVuSans(const std::string& config_file) {
+  // A configuration of our own, let go once the two files are known: the
+  // lookup is done once, and nothing of fontconfig outlives it.
+  std::unique_ptr<FcConfig, decltype(&FcConfigDestroy)> config(nullptr, &FcConfigDestroy);
+  if (config_file.empty()) {
+    config.reset(FcInitLoadConfigAndFonts());
+  } else {
+    config.reset(FcConfigCreate());
+    if (config && (!FcConfigParseAndLoad(config.get(), Fc(config_file.c_str()), FcTrue) ||
+                   !FcConfigBuildFonts(config.get()))) {
+      config.reset();
+    }
+  }
+  if (!config) throw PlatformError::Host("fontconfig", "cannot read its configuration");
+  return {FindFile(config.get(), false), FindFile(config.get(), true)};
+}
+
 const FontFiles& DejaVuSansFiles() {
-  // fontconfig's own initialisation is not meant to race; once per process.
+  // fontconfig's loading is not meant to race; once per process.
   static std::once_flag once;
   static FontFiles files;
-  std::call_once(once, [] {
-    if (!FcInit()) throw PlatformError::Host("fontconfig", "cannot read its configuration");
-    files.regular = FindFile(false);
-    files.bold = FindFile(true);
-  });
+  std::call_once(once, [] { files = FindDejaVuSans(); });
   return files;
 }
 

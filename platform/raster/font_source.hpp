@@ -16,4 +16,8 @@ struct FontFiles {
 // whatever font fontconfig would substitute: metrics must not change silently.
 const FontFiles& DejaVuSansFiles();
 
+// The lookup itself, with the configuration of fontconfig read from
+// `config_file`, or the system's when it is empty. Same errors.
+FontFiles FindDejaVuSans(const std::string& config_file = {});
+
 }  // namespace ferlan::raster
