@@ -7,7 +7,6 @@
 
 #include <cstddef>
 #include <functional>
-#include <source_location>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,9 +38,9 @@ class SessionTest : public ::testing::Test {
 
 // Runs `fn`, which must raise the platform error `number`. Its description
 // must be `text` when one is given, else the platform's text of that number
-// (with or without a detail after it).
+// (with or without a detail after it). Failures name the caller's line.
 void ExpectPlatformError(const std::function<void()>& fn, Long number,
-                         std::string_view text = {},
-                         std::source_location where = std::source_location::current());
+                         std::string_view text = {}, const char* file = __builtin_FILE(),
+                         int line = __builtin_LINE());
 
 }  // namespace ferlan::testing
