@@ -77,7 +77,9 @@ Double ToDouble(const Decimal& d) {
   if (d.digits.empty()) return d.negative ? -0.0 : 0.0;
   const std::string text = "0." + d.digits + "e" + std::to_string(d.point);
   Double value = 0;
-  std::from_chars(text.data(), text.data() + text.size(), value);
+  const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+  // Rounding up past the largest Double, as with 1.8e308 to -308 places.
+  if (result.ec == std::errc::result_out_of_range) value = HUGE_VAL;
   return d.negative ? -value : value;
 }
 

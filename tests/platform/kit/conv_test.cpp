@@ -151,6 +151,11 @@ TEST(ConvNumberTest, FormatReelAndArrondiRoundTiesAwayFromZero) {
   EXPECT_EQ(conv.FormatReel(std::numeric_limits<Double>::quiet_NaN(), 2), u"NaN");
   EXPECT_EQ(conv.FormatReel(-std::numeric_limits<Double>::infinity(), 2), u"-Inf");
   EXPECT_TRUE(std::isnan(conv.Arrondi(std::numeric_limits<Double>::quiet_NaN(), 2)));
+  // Rounding up past the largest Double gives infinity, not a wrong number.
+  EXPECT_EQ(conv.Arrondi(-std::numeric_limits<Double>::max(), -308),
+            -std::numeric_limits<Double>::infinity());
+  EXPECT_EQ(conv.Arrondi(std::numeric_limits<Double>::denorm_min(), 400),
+            std::numeric_limits<Double>::denorm_min());
 }
 
 TEST(ConvNumberTest, FormatReelReadsBackAsArrondi) {
