@@ -175,6 +175,18 @@ TEST_F(CaretTest, CaretBlinksOnlyWhileTheFormIsInFront) {
   EXPECT_EQ(caret.Top(), 3000);
 }
 
+TEST_F(CaretTest, BlinkPhaseCarriesOverUnlessTheCaretMovesSideways) {
+  Env().active_window = session.Form().hWnd();
+  // 600 ms of waiting: shown at the first tick, hidden by the blink at 500.
+  // Delete leaves PosCaretX as it was, so the next wait stays hidden.
+  Edit({u"abc", 20, u"C", u"E", 2}, "{wait:600}{Delete}{wait:100}{abandon}");
+  EXPECT_FALSE(CaretControl(St())->Visible());
+  // A Right arrow moves it, so it shows again at once.
+  Env().Abandon = false;
+  Edit({u"abc", 20, u"C", u"E", 1}, "{wait:600}{Right}{wait:100}{abandon}");
+  EXPECT_TRUE(CaretControl(St())->Visible());
+}
+
 TEST_F(CaretTest, FormWithoutCaretFailsAtSetUp) {
   Env().form =
       std::make_shared<forms::Form>(headless::Session::kFormHandle, headless::Session::kScreenWidth,
