@@ -9,7 +9,6 @@
 #include <string>
 #include <vector>
 
-#include "kit/env.hpp"
 #include "kit/kit.hpp"
 
 namespace ferlan::kit {
