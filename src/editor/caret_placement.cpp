@@ -9,29 +9,31 @@ void PlaceAndStartCaret(EditState& e) {
   ModuleState& st = e.st;
   KySaisie ky;
   CaretForm& form = FeuilleCaret(st);
-  // 1, 2.
+  // The timers first; no tick can come before the wait.
   form.TimerCaretCligote->SetEnabled(true);
   form.TimerCaretCligote->SetInterval(500);
   form.TimerCaret->SetEnabled(true);
   form.TimerCaret->SetInterval(1);
-  // 3. From CH, not TexteVu: on a scrolled field this is not the character
-  //    under the caret, and behind an "I" mask it is the hidden character.
+  // The character that gives the width comes from CH, not TexteVu: on a
+  // scrolled field it is not the character under the caret, and behind an
+  // "I" mask it is the hidden character.
   String car_caret = Mid(e.CH, SubInt(e.P, e.Decal), 1);
   if (car_caret == u" ") car_caret = u"A";
-  // 4. Single + Single stays Single before the rounding.
+  // Left: CT and the text left of the caret; Single + Single stays Single
+  // before the rounding.
   const Single left_of_caret = ky.LargeurTexte(Left(e.TexteVu, SubInt(SubInt(e.P, 1), e.Decal)));
   st.PosCaretX = CLng(static_cast<Single>(e.CT + left_of_caret));
-  // 5. Long + Single is worked in Double.
+  // On another surface, its place and CaretX; Long + Single is worked in
+  // Double.
   if (e.AvecSubst) {
     st.PosCaretX = CLng(static_cast<Double>(st.PosCaretX) + e.KyFSubst->Left() + e.CaretX);
   }
-  // 6. Under the letters, not beside them.
+  // Top: under the letters, not beside them.
   st.PosCaretY = CLng(e.LT + static_cast<Double>(ky.HauteurTexte()) * 0.85);
-  // 7.
   if (e.AvecSubst) {
     st.PosCaretY = CLng(static_cast<Double>(st.PosCaretY) + e.KyFSubst->Top() + e.CaretY);
   }
-  // 8. As wide as a letter.
+  // As wide as a letter.
   CaretControl(st)->SetWidth(ky.LargeurTexte(car_caret));
 }
 

@@ -1,5 +1,6 @@
-// Date rules D1, D2, D4 and D5. D3 (no blanking by the first key) lives in
-// the typed character, D6 (separators back after a cut) in FormatDate.
+// The rules of a date field. Two more live elsewhere: the first key doesn't
+// blank a date (typed_character.cpp), and the separators come back after a
+// cut (FormatDate).
 #include "editor/field_kinds.hpp"
 
 namespace ferlan {

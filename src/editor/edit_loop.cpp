@@ -32,15 +32,13 @@ String Bullets(Long count) {
 
 void SetUp(EditState& e) {
   KySaisie ky;
-  // 1.
   e.TR = 0;
-  // 2.
   if (e.KyFSubst) {
     e.AvecSubst = true;
     e.ZoneGardee = e.st.Env->ZoneAff();
   }
-  // 3. With "Infini" the window is LCM + 1 columns: CMax is C + LCM, not
-  //    C + LCM - 1. Otherwise it ends at the right edge of the surface.
+  // With "Infini" the window is LCM + 1 columns: CMax is C + LCM, not
+  // C + LCM - 1. Otherwise it ends at the right edge of the surface.
   if (e.IMS == u"Infini") {
     e.LC = kInfiniteLength;
     e.CMax = AddInt(e.C, e.LCM);
@@ -50,30 +48,27 @@ void SetUp(EditState& e) {
     e.LC = e.LCM;
     e.CMax = ky.NbCol();
   }
-  // 4.
   ChooseCaretPicture(e.st);
-  // 5. LongUtile also takes the trailing blanks off CH.
+  // LongUtile also takes the trailing blanks off CH.
   e.LU = e.st.Conv->LongUtile(e.CH);
-  // 6. Written back at once: the caller sees it even if the edit is abandoned.
+  // Col is written back at once: the caller sees it even if the edit is abandoned.
   if (e.Col > e.LC) e.Col = e.LC;
-  // 7. A text that doesn't fit keeps LC - 1 characters and a visible mark.
+  // A text that doesn't fit keeps LC - 1 characters and a visible mark.
   if (e.LU > e.LC) {
     e.CH = Left(e.CH, SubInt(e.LC, 1)) + Chr(kCutMark);
     e.LU = e.LC;
   }
-  // 8.
   e.CH = e.st.Conv->Cadre(e.CH, e.LC, 0);
-  // 9.
+  // How many characters fit between C and CMax.
   if (SubInt(AddInt(e.C, e.LC), 1) <= e.CMax) {
     e.NbVis = e.LC;
   } else {
     e.NbVis = SubInt(AddInt(e.CMax, 1), e.C);
   }
-  // 10.
   e.Decal = 0;
   e.Premier = true;
   e.Fin = e.LC == 0;
-  // 11.
+  // Where the caret starts.
   if (e.IMS == u"V") {
     e.P = AddInt(e.LU, 1);
     if (e.P > e.LC) e.P = e.LC;
@@ -159,7 +154,7 @@ void KySaisie::Modif(Single LT, Integer C, Single CT, Integer LCM, Single LzT, S
     ShowStatus(e);
     if (!IsHidden(e)) DrawField(e);
     if (DateSeparatorDue(e)) {
-      // D1: no key is read and the caret doesn't appear.
+      // A date's separator types itself: no key is read and the caret doesn't appear.
       e.R = u"/";
       e.Code = 0;
     } else {

@@ -10,21 +10,21 @@ namespace ferlan {
 // Date field, TV "D": "/" at positions 3 and 6, never typed by the user.
 // ---------------------------------------------------------------------------
 Boolean IsDateField(const EditState& e);
-// D1: at position 3 or 6 no key is read; "/" is typed for the user.
+// Separators type themselves: at position 3 or 6 no key is read; "/" is typed for the user.
 Boolean DateSeparatorDue(const EditState& e);
-// D2: after an arrow has moved P onto a separator, one more step the same
+// Arrows skip the separators: after an arrow has moved P onto a separator, one more step the same
 // way (direction -1 or +1).
 void SkipDateSeparator(EditState& e, Integer direction);
-// D4: the Insert key can turn Insertion off but never on in a date field.
+// No insertion: the Insert key can turn Insertion off but never on in a date field.
 Boolean InsertKeyMayTurnOn(const EditState& e);
-// D5: Delete works only behind the second separator.
+// Delete works only behind the second separator.
 Boolean DeleteAllowed(const EditState& e);
 
 // ---------------------------------------------------------------------------
 // Yes/no field, TV "B": the answer "OUI" or "NON" ends the field.
 // ---------------------------------------------------------------------------
 Boolean IsYesNoField(const EditState& e);
-// B2: after a character has been stored at position 1, O/o answers "OUI" and
+// The answer ends the field: after a character has been stored at position 1, O/o answers "OUI" and
 // N/n "NON"; the edit ends as if validated.
 void AnswerYesNo(EditState& e);
 

@@ -20,7 +20,7 @@ struct CommandRow {
 
 Env& EnvOf(EditState& e) { return *e.st.Env; }
 
-// Row 4: the blanking key. LU becomes 1, not 0, so End then goes to 2.
+// The blanking key. LU becomes 1, not 0, so End then goes to 2.
 void BlankField(EditState& e) {
   e.CH = Space(e.LC);
   BlankZone(e);
@@ -28,7 +28,7 @@ void BlankField(EditState& e) {
   e.LU = 1;
 }
 
-// Row 5: left; nothing is deleted, Backspace included.
+// Left; nothing is deleted, Backspace included.
 void MoveLeft(EditState& e) {
   if (e.P > 1) {
     e.P = SubInt(e.P, 1);
@@ -36,7 +36,6 @@ void MoveLeft(EditState& e) {
   }
 }
 
-// Row 6.
 void MoveRight(EditState& e) {
   if (e.P < e.LC) {
     e.P = AddInt(e.P, 1);
@@ -44,7 +43,7 @@ void MoveRight(EditState& e) {
   }
 }
 
-// Row 7. The picture follows Insertion even where the field ignores it.
+// Insert. The picture follows Insertion even where the field ignores it.
 void ToggleInsertion(EditState& e) {
   if (e.st.Insertion) {
     e.st.Insertion = false;
@@ -55,24 +54,23 @@ void ToggleInsertion(EditState& e) {
   }
 }
 
-// Row 8. LU goes down wherever the caret stands, also behind the text.
+// Delete. LU goes down wherever the caret stands, also behind the text.
 void DeleteAtCaret(EditState& e) {
   if (!DeleteAllowed(e)) return;
   e.CH = Left(e.CH, SubInt(e.P, 1)) + Mid(e.CH, AddInt(e.P, 1)) + u" ";
   if (e.LU > 1) e.LU = SubInt(e.LU, 1);
 }
 
-// Row 10.
 void GoToEnd(EditState& e) { e.P = e.LU < e.LC ? AddInt(e.LU, 1) : e.LU; }
 
-// Row 11: cut from the caret to the end; a date keeps its separators (D6).
+// Ctrl+End: cut from the caret to the end; a date keeps its separators.
 void CutToEnd(EditState& e) {
   e.CH = e.st.Conv->Cadre(Left(e.CH, SubInt(e.P, 1)), e.LC, 0);
   KySaisie{}.FormatDate(e.CH, e.TV);
   e.LU = SubInt(e.P, 1);
 }
 
-// Rows 12 and 13: the test reads 8 but the step is 7.
+// Tab and Shift+Tab: the test reads 8 but the step is 7.
 void TabRight(EditState& e) {
   if (AddInt(SubInt(e.LC, e.P), 1) < 8) {
     e.P = e.LC;
@@ -83,7 +81,7 @@ void TabRight(EditState& e) {
 
 void TabLeft(EditState& e) { e.P = e.P < 8 ? Integer{1} : SubInt(e.P, 7); }
 
-// Row 18: the leaving keys. Env is read one key at a time, stopping at the
+// The leaving keys. Env is read one key at a time, stopping at the
 // first that fits.
 Boolean IsLeavingKey(EditState& e) {
   Env& env = EnvOf(e);
@@ -102,46 +100,46 @@ void Leave(EditState& e) {
 }
 
 constexpr std::array<CommandRow, 18> kCommandTable = {{
-    // 1. A character, or Ctrl+R.
+    // A character, or Ctrl+R.
     {[](EditState& e) { return e.Code == 0; }, TypeCharacter},
-    // 2. Ctrl+C.
+    // Ctrl+C.
     {[](EditState& e) { return e.Code == 2067; }, CopyRest},
-    // 3. Ctrl+V.
+    // Ctrl+V.
     {[](EditState& e) { return e.Code == 2086; }, Paste},
-    // 4. The blanking key.
+    // The blanking key.
     {[](EditState& e) { return e.Code == EnvOf(e).ToucheVide(); }, BlankField},
-    // 5. Left arrow, Backspace.
+    // Left arrow, Backspace.
     {[](EditState& e) {
        return e.Code == EnvOf(e).ToucheGauche() || e.Code == EnvOf(e).ToucheRetour();
      },
      MoveLeft},
-    // 6. Right arrow.
+    // Right arrow.
     {[](EditState& e) { return e.Code == EnvOf(e).ToucheDroite(); }, MoveRight},
-    // 7. Insert.
+    // Insert.
     {[](EditState& e) { return e.Code == 45; }, ToggleInsertion},
-    // 8. Delete.
+    // Delete.
     {[](EditState& e) { return e.Code == 46; }, DeleteAtCaret},
-    // 9. Home.
+    // Home.
     {[](EditState& e) { return e.Code == 36; }, [](EditState& e) { e.P = 1; }},
-    // 10. End.
+    // End.
     {[](EditState& e) { return e.Code == 35; }, GoToEnd},
-    // 11. Ctrl+End.
+    // Ctrl+End.
     {[](EditState& e) { return e.Code == 2035; }, CutToEnd},
-    // 12. Tab.
+    // Tab.
     {[](EditState& e) { return e.Code == 9; }, TabRight},
-    // 13. Shift+Tab.
+    // Shift+Tab.
     {[](EditState& e) { return e.Code == 1009; }, TabLeft},
-    // 14. Ctrl+Right.
+    // Ctrl+Right.
     {[](EditState& e) { return e.Code == 2039; }, WordRight},
-    // 15. Ctrl+Left.
+    // Ctrl+Left.
     {[](EditState& e) { return e.Code == 2037; }, WordLeft},
-    // 16. Alt+C: help on the keyboard.
+    // Alt+C: help on the keyboard.
     {[](EditState& e) { return e.Code == 4067; },
      [](EditState& e) { e.st.Aide->Affiche(u"CLAVIER"); }},
-    // 17. Alt+A: help on the topic of the moment.
+    // Alt+A: help on the topic of the moment.
     {[](EditState& e) { return e.Code == 4065; },
      [](EditState& e) { e.st.Aide->Affiche(EnvOf(e).SujetAide()); }},
-    // 18. The leaving keys; CH stays as it is.
+    // The leaving keys; CH stays as it is.
     {IsLeavingKey, Leave},
 }};
 
@@ -154,7 +152,7 @@ void CarryOutKey(EditState& e) {
       return;
     }
   }
-  // 19. Any other key: nothing.
+  // Any other key: nothing.
 }
 
 }  // namespace ferlan

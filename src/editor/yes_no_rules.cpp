@@ -1,5 +1,5 @@
-// Yes/no rule B2. B1 (no insertion) and B3 (the caret comes back to 1) are
-// steps of the typed character.
+// The answer of a yes/no field. Its other two rules, no insertion and the
+// caret back on 1, are steps of the typed character.
 #include "editor/field_kinds.hpp"
 
 namespace ferlan {
