@@ -25,11 +25,6 @@ constexpr Long kToolbarFace = 0x00E8E8E8;
 constexpr Long kShadow = 0x00A0A0A0;
 constexpr Long kDarkShadow = 0x00696969;
 
-int PixelsOf(Single twips) {
-  if (!(twips > 0)) return 0;
-  return static_cast<int>(std::ceil(static_cast<double>(twips) / kTwipsPerPixel - 1e-4));
-}
-
 void SetColour(cairo_t* cr, Long colour) {
   const std::uint32_t w = WordOfColour(colour);
   cairo_set_source_rgb(cr, ((w >> 16) & 0xFF) / 255.0, ((w >> 8) & 0xFF) / 255.0,
@@ -100,8 +95,8 @@ Inner DrawPictureBox(cairo_t* cr, PictureBox& box, int origin_x, int origin_y) {
   const int border = PixelOfTwips((box.Width() - box.ScaleWidth()) / 2);
   const int left = origin_x + PixelOfTwips(box.Left());
   const int top = origin_y + PixelOfTwips(box.Top());
-  Inner inner{left + border, top + border, PixelsOf(box.ScaleWidth()),
-              PixelsOf(box.ScaleHeight())};
+  Inner inner{left + border, top + border, PixelsOfSize(box.ScaleWidth()),
+              PixelsOfSize(box.ScaleHeight())};
   if (border > 0) {
     // A sunken single border: a grey line outside a dark one.
     const int w = inner.w + 2 * border, h = inner.h + 2 * border;
@@ -123,9 +118,9 @@ Inner DrawPictureBox(cairo_t* cr, PictureBox& box, int origin_x, int origin_y) {
 
 void DrawCaret(cairo_t* cr, PictureBox& caret, const Inner& surface) {
   const forms::Bitmap* picture = AsBitmap(caret.Picture());
-  const int w = caret.Width() > 0 ? PixelsOf(caret.Width()) : (picture ? picture->PixelWidth() : 0);
+  const int w = caret.Width() > 0 ? PixelsOfSize(caret.Width()) : (picture ? picture->PixelWidth() : 0);
   const int h =
-      caret.Height() > 0 ? PixelsOf(caret.Height()) : (picture ? picture->PixelHeight() : 0);
+      caret.Height() > 0 ? PixelsOfSize(caret.Height()) : (picture ? picture->PixelHeight() : 0);
   const int x = surface.x + PixelOfTwips(caret.Left());
   const int y = surface.y + PixelOfTwips(caret.Top());
   cairo_save(cr);
@@ -148,8 +143,8 @@ std::shared_ptr<forms::Bitmap> ComposeForm(Form& form, PictureBox* surface) {
     if (!own_surface) throw PlatformError::TypeMismatch("ZoneAff is not a picture control");
     surface = own_surface.get();
   }
-  const int width = PixelsOf(form.ScaleWidth());
-  const int height = PixelsOf(form.ScaleHeight());
+  const int width = PixelsOfSize(form.ScaleWidth());
+  const int height = PixelsOfSize(form.ScaleHeight());
   std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)> owned_image(
       cairo_image_surface_create(CAIRO_FORMAT_RGB24, width, height), &cairo_surface_destroy);
   std::unique_ptr<cairo_t, decltype(&cairo_destroy)> owned_cr(cairo_create(owned_image.get()),
@@ -161,7 +156,7 @@ std::shared_ptr<forms::Bitmap> ComposeForm(Form& form, PictureBox* surface) {
 
   if (auto toolbar = OptionalMember<Control>(form, "BarreOutils"); toolbar && toolbar->Visible()) {
     const int x = PixelOfTwips(toolbar->Left()), y = PixelOfTwips(toolbar->Top());
-    const int w = PixelsOf(toolbar->Width()), h = PixelsOf(toolbar->Height());
+    const int w = PixelsOfSize(toolbar->Width()), h = PixelsOfSize(toolbar->Height());
     Fill(cr, x, y, w, h, kToolbarFace);
     Fill(cr, x, y + h - 1, w, std::min(h, 1), kShadow);
   }

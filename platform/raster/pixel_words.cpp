@@ -1,9 +1,28 @@
 // Between the forms runtime's RGB bitmaps and Cairo's 32-bit words.
 #include "raster/pixel_words.hpp"
 
+#include <algorithm>
+#include <cmath>
 #include <cstring>
 
 namespace ferlan::raster {
+
+namespace {
+// Far beyond any image Cairo makes (32767 pixels a side), so that Cairo
+// reports the size, and near enough that the conversion to int is defined.
+constexpr double kMaxPixels = 1 << 24;
+}  // namespace
+
+int PixelOfTwips(double twips) {
+  // The small allowance keeps a Single such as 104.99999 in pixel 7.
+  return static_cast<int>(
+      std::clamp(std::floor(twips / kTwipsPerPixel + 1e-4), -kMaxPixels, kMaxPixels));
+}
+
+int PixelsOfSize(double twips) {
+  if (!(twips > 0)) return 0;
+  return static_cast<int>(std::min(std::ceil(twips / kTwipsPerPixel - 1e-4), kMaxPixels));
+}
 
 std::vector<std::uint32_t> WordsOf(const forms::Bitmap& bitmap) {
   std::vector<std::uint32_t> words;

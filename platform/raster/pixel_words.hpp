@@ -1,4 +1,4 @@
-// Pixels as Cairo's RGB24 images hold them: one 32-bit word each, 0x00RRGGBB
+// Twips to pixels, and pixels as Cairo's RGB24 images hold them: one 32-bit word each, 0x00RRGGBB
 // in native byte order. The raster back-end's conversions between those
 // words, the platform's colours (0x00BBGGRR) and the forms runtime's Bitmap.
 #pragma once
@@ -12,6 +12,11 @@
 namespace ferlan::raster {
 
 inline constexpr int kTwipsPerPixel = 15;
+
+// The pixel that holds a point given in twips.
+int PixelOfTwips(double twips);
+// The pixels a size in twips covers: every pixel it reaches into.
+int PixelsOfSize(double twips);
 
 constexpr std::uint32_t WordOfColour(Long colour) {
   auto c = static_cast<std::uint32_t>(colour);

@@ -22,12 +22,6 @@ namespace {
 
 constexpr std::uint32_t kWhite = 0xFFFFFFu;
 
-int PixelsOfSize(Single twips) {
-  // A size covers every pixel it reaches into.
-  if (!(twips > 0)) return 0;
-  return static_cast<int>(std::ceil(static_cast<double>(twips) / kTwipsPerPixel - 1e-4));
-}
-
 void Check(cairo_status_t status, std::string_view doing) {
   if (status != CAIRO_STATUS_SUCCESS) {
     throw PlatformError::Host("cairo", std::string(doing) + ": " + cairo_status_to_string(status));
@@ -52,11 +46,6 @@ std::uint32_t Blend(std::uint32_t dst, std::uint32_t src, unsigned alpha) {
 
 }  // namespace
 
-int PixelOfTwips(double twips) {
-  // The small allowance keeps a Single such as 104.99999 in pixel 7.
-  return static_cast<int>(std::floor(twips / kTwipsPerPixel + 1e-4));
-}
-
 struct RasterCanvas::Surface {
   cairo_surface_t* image = nullptr;
   cairo_t* cr = nullptr;
@@ -68,7 +57,12 @@ struct RasterCanvas::Surface {
   Surface(int w, int h, std::uint32_t back) : width(w), height(h), background(back) {
     image = cairo_image_surface_create(CAIRO_FORMAT_RGB24, w, h);
     cr = cairo_create(image);
-    Check(cairo_status(cr), "creating a surface");
+    if (cairo_status(cr) != CAIRO_STATUS_SUCCESS) {
+      const cairo_status_t status = cairo_status(cr);
+      cairo_destroy(cr);
+      cairo_surface_destroy(image);
+      Check(status, "creating a surface");
+    }
     // Whole pixels, no blending at the edges: boxes meet exactly.
     cairo_set_antialias(cr, CAIRO_ANTIALIAS_NONE);
     cairo_set_line_width(cr, 1.0);

@@ -17,6 +17,7 @@
 #include <memory>
 
 #include "forms/canvas.hpp"
+#include "raster/pixel_words.hpp"
 
 namespace ferlan::raster {
 
@@ -52,8 +53,5 @@ class RasterCanvas final : public forms::Canvas {
 
 // Canvases for new picture controls, for a forms runtime drawn in pixels.
 forms::CanvasFactory RasterCanvasFactory();
-
-// The pixel that holds a point given in twips.
-int PixelOfTwips(double twips);
 
 }  // namespace ferlan::raster

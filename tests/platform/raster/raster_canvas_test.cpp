@@ -117,6 +117,19 @@ TEST(RasterCanvasTest, ResizeKeepsTheTopLeftAndGrowsInTheClearedColour) {
   EXPECT_EQ(canvas.PixelHeight(), 1);
 }
 
+TEST(RasterCanvasTest, ASizeBeyondCairoIsAHostErrorAndTheCanvasStays) {
+  RasterCanvas canvas(150, 150);
+  canvas.Clear(kBlue);
+  try {
+    canvas.Resize(1e7f, 150);  // 666667 pixels: more than an image can hold
+    FAIL() << "no error";
+  } catch (const PlatformError& error) {
+    EXPECT_EQ(error.Description().rfind("cairo: ", 0), 0u) << error.Description();
+  }
+  EXPECT_EQ(canvas.PixelWidth(), 10);
+  EXPECT_EQ(canvas.ColourAt(9, 9), kBlue);
+}
+
 TEST(RasterCanvasTest, TextLiesInsideItsMeasuredBoxInItsColour) {
   RasterCanvas canvas(3000, 600);
   canvas.Clear(kBlue);
