@@ -8,6 +8,7 @@
 #include "headless/session.hpp"
 #if FERLAN_HAVE_RASTER
 #include "raster/form_picture.hpp"
+#include "raster/picture_files.hpp"
 #endif
 
 namespace ferlan::tool {
@@ -72,6 +73,10 @@ void AutomateSession::Reset() {
   named_.clear();
   session_.reset();  // the old apartment ends before the new one begins
   session_ = std::make_unique<headless::Session>(CanvasFor(surface_));
+#if FERLAN_HAVE_RASTER
+  // PNG decoding is the raster back-end's; BMP the forms runtime reads itself.
+  if (surface_ == SurfaceKind::Raster) session_->Global().SetPngDecoder(raster::DecodePng);
+#endif
 }
 
 void AutomateSession::Run(std::istream& in, std::ostream& out) {
