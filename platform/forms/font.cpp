@@ -20,7 +20,7 @@ const PropertyTable<Font>& Properties() {
 
 void Font::SetSize(Single size) {
   if (!(size > 0) || !std::isfinite(size)) throw PlatformError::InvalidCall("font size");
-  spec_.size = size;
+  face_.size = size;
 }
 
 Variant Font::GetProperty(std::string_view name) { return Properties().Get(*this, name); }

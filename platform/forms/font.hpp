@@ -10,22 +10,22 @@ namespace ferlan::forms {
 class Font final : public ferlan::Font {
  public:
   Font() = default;
-  explicit Font(FontSpec spec) : spec_(spec) {}
+  explicit Font(FontSpec face) : face_(face) {}
 
-  Boolean Bold() const override { return spec_.bold; }
-  void SetBold(Boolean bold) override { spec_.bold = bold; }
-  Single Size() const override { return spec_.size; }
+  Boolean Bold() const override { return face_.bold; }
+  void SetBold(Boolean bold) override { face_.bold = bold; }
+  Single Size() const override { return face_.size; }
   // Errors: 5 for a size that is not above 0 (no font has it).
   void SetSize(Single size) override;
 
-  const FontSpec& Spec() const { return spec_; }
+  const FontSpec& Face() const { return face_; }
 
   // Late-bound "Size" and "Bold".
   Variant GetProperty(std::string_view name) override;
   void SetProperty(std::string_view name, const Variant& value) override;
 
  private:
-  FontSpec spec_;
+  FontSpec face_;
 };
 
 }  // namespace ferlan::forms

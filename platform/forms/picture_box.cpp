@@ -66,10 +66,10 @@ Single PictureBox::ScaleHeight() const { return std::max<Single>(0, height_ - Bo
 
 void PictureBox::ResizeCanvas() { canvas_->Resize(ScaleWidth(), ScaleHeight()); }
 
-Single PictureBox::TextWidth(StringView text) { return canvas_->TextWidth(text, font_->Spec()); }
+Single PictureBox::TextWidth(StringView text) { return canvas_->TextWidth(text, font_->Face()); }
 
 Single PictureBox::TextHeight(StringView text) {
-  return canvas_->TextHeight(text, font_->Spec());
+  return canvas_->TextHeight(text, font_->Face());
 }
 
 void PictureBox::Cls() {
@@ -91,7 +91,7 @@ void PictureBox::Line(Single x1, Single y1, Single x2, Single y2, Long colour) {
 }
 
 void PictureBox::Print(StringView text, Long colour) {
-  canvas_->Text(current_x_, current_y_, text, font_->Spec(), colour);
+  canvas_->Text(current_x_, current_y_, text, font_->Face(), colour);
   current_x_ += TextWidth(text);
 }
 

@@ -194,18 +194,18 @@ Json AutomateSession::Get(const Json& request) {
 }
 
 Json AutomateSession::New(const Json& request) {
-  const Json& spec = request["new"];
-  if (!spec.is_object() || !spec.contains("name") || !spec["name"].is_string()) {
+  const Json& order = request["new"];
+  if (!order.is_object() || !order.contains("name") || !order["name"].is_string()) {
     throw BadRequest("new: {\"name\":...,\"kind\":\"PictureBox\",\"set\":{...}}");
   }
-  const std::string kind = spec.value("kind", std::string("PictureBox"));
+  const std::string kind = order.value("kind", std::string("PictureBox"));
   if (kind != "PictureBox") throw BadRequest("new: unknown kind \"" + kind + "\"");
-  const std::string name = spec["name"].get<std::string>();
+  const std::string name = order["name"].get<std::string>();
   if (name.find('.') != std::string::npos) throw BadRequest("new: a name holds no point");
   named_[name] = session_->NewPictureBox();
-  if (spec.contains("set")) {
-    if (!spec["set"].is_object()) throw BadRequest("new: set is an object");
-    for (const auto& [property, value] : spec["set"].items()) {
+  if (order.contains("set")) {
+    if (!order["set"].is_object()) throw BadRequest("new: set is an object");
+    for (const auto& [property, value] : order["set"].items()) {
       SetValue(name + "." + property, value);
     }
   }
