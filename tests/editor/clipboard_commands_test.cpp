@@ -1,4 +1,5 @@
-// Copy and paste in a field, and the one error the editor catches.
+// Copy in a field, and a clipboard another program holds: the one error
+// the editor catches. Paste is in the command table.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -14,7 +15,7 @@ using ClipboardTest = EditorTest;
 
 TEST_F(ClipboardTest, CopyTakesTheTrimmedRestAndShowsItUntrimmed) {
   session.SetClipboardText(u"old");
-  const Outcome out = Edit({u"abc def  ", 9, u"C", u"E", 4}, "{Ctrl+C}{Enter}");
+  const Outcome out = Edit(At(u"abc def  ", 4, 9), "{Ctrl+C}{Enter}");
   EXPECT_EQ(ToUtf8(session.ClipboardText()), "def");
   ASSERT_EQ(session.Records().boxes.size(), 1u);
   const kit::BoxReport& box = session.Records().boxes[0];
@@ -24,50 +25,6 @@ TEST_F(ClipboardTest, CopyTakesTheTrimmedRestAndShowsItUntrimmed) {
   EXPECT_EQ(ToUtf8(out.ch), "abc def");
   EXPECT_EQ(out.col, 4);
 }
-
-struct PasteCase {
-  const char* what;
-  Field field;
-  bool insertion;
-  String clipboard;
-  const char* keys;
-  String want_ch;
-  Integer want_col;
-};
-
-void PrintTo(const PasteCase& c, std::ostream* os) { *os << c.what; }
-
-class PasteTest : public EditorTest, public ::testing::WithParamInterface<PasteCase> {};
-
-TEST_P(PasteTest, PutsTheClipboardAtTheCaret) {
-  const PasteCase& c = GetParam();
-  St().Insertion = c.insertion;
-  session.SetClipboardText(c.clipboard);
-  const Outcome out = Edit(c.field, c.keys);
-  EXPECT_EQ(ToUtf8(out.ch), ToUtf8(c.want_ch));
-  EXPECT_EQ(out.col, c.want_col);
-}
-
-// clang-format off
-const PasteCase kPasteCases[] = {
-    {"insert keeps the first LC characters", {u"hello", 10, u"C", u"E", 3}, true,
-     u"0123456789ABCDEF", "{Ctrl+V}{Enter}", u"he01234567", 3},
-    {"overwrite replaces as far as the text goes", {u"hello world", 11, u"C", u"E", 3}, false,
-     u"XY", "{Ctrl+V}{Enter}", u"heXYo world", 3},
-    {"overwrite at the last position takes one character", {u"hello", 5, u"C", u"E", 5}, false,
-     u"XYZ", "{Ctrl+V}{Enter}", u"hellX", 5},
-    {"an empty clipboard changes only LU, so End goes to LC", {u"abc", 10, u"C", u"E", 1}, false,
-     u"", "{Ctrl+V}{End}{Enter}", u"abc", 10},
-    {"after paste LU is LC also in insert mode", {u"abc", 10, u"C", u"E", 2}, true, u"x",
-     "{Ctrl+V}{End}{Enter}", u"axbc", 10},
-    {"nothing is filtered", {u"ab", 10, u"C", u"E", 2}, true, u"\t\r\n", "{Ctrl+V}{Enter}",
-     u"a\t\r\nb", 2},
-    {"date fields have no rule: insertion shifts the separators",
-     {u"12/03/2024", 10, u"D", u"E", 1}, true, u"9", "{Ctrl+V}{Enter}", u"912/03/202", 1},
-};
-// clang-format on
-
-INSTANTIATE_TEST_SUITE_P(Paste, PasteTest, ::testing::ValuesIn(kPasteCases));
 
 // A clipboard that can't be opened, as when another program holds it.
 class LockedClipboard final : public Clipboard {
@@ -101,23 +58,13 @@ class LockedClipboardTest : public EditorTest {
   std::optional<Apartment> apartment_;
 };
 
-TEST_F(LockedClipboardTest, PasteFromAnUnreadableClipboardPastesNothing) {
-  const Outcome out = Edit({u"abc", 10, u"C", u"E", 2}, "{Ctrl+V}{End}{Enter}");
+TEST_F(LockedClipboardTest, PasteReadsNothingButCopyFailsTheCaller) {
+  const Outcome out = Edit(At(u"abc", 2, 10), "{Ctrl+V}{End}{Enter}");
   EXPECT_EQ(ToUtf8(out.ch), "abc");
   EXPECT_EQ(out.col, 10);  // LU still became LC
   EXPECT_EQ(out.tr, 13);
-}
 
-TEST_F(LockedClipboardTest, CopyToALockedClipboardFailsTheCaller) {
-  String ch = u"abc";
-  Integer tr = 0;
-  Type("{Ctrl+C}{Enter}");
-  try {
-    KySaisie{}.Modif(kLT, 5, kCT, 10, kLzT, kCzT, u"C", ch, tr, u"F");
-    ADD_FAILURE() << "Ctrl+C on a locked clipboard returned";
-  } catch (const PlatformError& e) {
-    EXPECT_NE(e.Description().find("locked"), std::string::npos) << e.Description();
-  }
+  ExpectPlatformError([&] { Edit(At(u"abc", 1, 10), "{Ctrl+C}{Enter}"); }, 51, "clipboard: locked");
   EXPECT_TRUE(session.Records().boxes.empty());
 }
 

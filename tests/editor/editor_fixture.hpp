@@ -5,7 +5,6 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "component/module_state.hpp"
 #include "support/session_test.hpp"
@@ -21,7 +20,13 @@ struct Field {
   Integer col = 0;
   String coul = u"B";
   Integer c = 5;  // grid column: only the scrolling uses it
+  PictureBoxRef zone = nullptr;  // another surface, with the caret's offset on it
+  Single caret_x = 0;
+  Single caret_y = 0;
 };
+
+// A field of `lcm` entered at Col `col` (IMS "E").
+inline Field At(String ch, Integer col, Integer lcm = 20) { return {ch, lcm, u"C", u"E", col}; }
 
 // What the caller has after the edit.
 struct Outcome {
@@ -32,8 +37,7 @@ struct Outcome {
 
 class EditorTest : public SessionTest {
  protected:
-  // The field's place: line 2, column 5 of the fixed-metric grid (the
-  // column is Field::c).
+  // The field's place: line 2, column 5 of the fixed-metric grid.
   static constexpr Single kLT = 624;
   static constexpr Single kCT = 525;
   static constexpr Single kCzT = 420;
@@ -44,19 +48,19 @@ class EditorTest : public SessionTest {
     Type(keys);
     Outcome out{field.ch, 0, field.col};
     KySaisie{}.Modif(kLT, field.c, kCT, field.lcm, kLzT, kCzT, field.tv, out.ch, out.tr, field.ims,
-                     &out.col, field.coul);
+                     &out.col, field.coul, field.zone, field.caret_x, field.caret_y);
     return out;
   }
 
-  // The texts that Dessin.Texte drew since the last look, in order, without
-  // the "Curseur" status line.
-  std::vector<String> FieldTexts() {
-    std::vector<String> texts;
+  // The texts that Dessin.Texte drew since the last look, each followed by
+  // "|": the field's, or with `status` the caret positions of the status line.
+  std::string Drawn(bool status = false) {
+    std::string texts;
     for (const headless::DessinCall& call : session.Recorder().TakeLog()) {
       if (call.name != "Texte") continue;
       const String text = VariantToString(call.args[2]);
-      if (text.starts_with(u"Curseur ")) continue;
-      texts.push_back(text);
+      if (text.starts_with(u"Curseur ") != status) continue;
+      texts += ToUtf8(status ? Trim(Mid(text, 9)) : text) + "|";
     }
     return texts;
   }

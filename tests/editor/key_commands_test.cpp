@@ -1,145 +1,146 @@
 // The command table through real keys: each case types a script into a
-// field and checks what the caller gets back. The caret's final position
-// (Col) shows LU where End is pressed last.
+// field and checks what the caller gets back. The final Col shows LU where
+// End is pressed last.
 #include <gtest/gtest.h>
 
-#include <ostream>
+#include <tuple>
 
 #include "editor/editor_fixture.hpp"
 
 namespace ferlan::testing {
 namespace {
 
-struct CommandCase {
-  const char* what;
-  Field field;
-  bool insertion;  // Insertion as an earlier field left it
+struct Case {
   const char* keys;
+  Field field;
   String want_ch;
   Integer want_col;
   Integer want_tr = 13;
+  bool insertion = false;  // Insertion as an earlier field left it
+  const char16_t* clipboard = nullptr;
 };
 
-void PrintTo(const CommandCase& c, std::ostream* os) { *os << c.what << " [" << c.keys << "]"; }
-
-class KeyCommandTest : public EditorTest, public ::testing::WithParamInterface<CommandCase> {};
+class KeyCommandTest : public EditorTest, public ::testing::WithParamInterface<Case> {};
 
 TEST_P(KeyCommandTest, GivesTheCallerTheEditedField) {
-  const CommandCase& c = GetParam();
-  SCOPED_TRACE(std::string(c.what) + ", keys " + c.keys);
+  const Case& c = GetParam();
+  SCOPED_TRACE("keys " + std::string(c.keys) + " on \"" + ToUtf8(c.field.ch) + "\"");
   St().Insertion = c.insertion;
+  if (c.clipboard != nullptr) session.SetClipboardText(c.clipboard);
   const Outcome out = Edit(c.field, c.keys);
   EXPECT_EQ(ToUtf8(out.ch), ToUtf8(c.want_ch));
   EXPECT_EQ(out.col, c.want_col);
   EXPECT_EQ(out.tr, c.want_tr);
 }
 
+Field Date(String ch, Integer col = 0) { return {ch, 10, u"D", col == 0 ? u"F" : u"E", col}; }
+Field YesNo(String ch, Integer lcm = 3) { return {ch, lcm, u"B"}; }
+constexpr const char16_t* kDate = u"12/03/2024";
+
 // clang-format off
-const CommandCase kTypingCases[] = {
-    {"first key blanks; overwrite keeps LU 11 so End goes to 12",
-     {u"hello world"}, false, "abc{End}{Enter}", u"abc", 12},
-    {"first key blanks; insert counts LU up to 14",
-     {u"hello world"}, true, "abc{End}{Enter}", u"abc", 15},
-    {"IMS P keeps the text", {u"hello world", 20, u"C", u"P"}, false, "abc{Enter}",
-     u"abclo world", 4},
-    {"IMS E keeps the text", {u"hello world", 20, u"C", u"E", 1}, false, "abc{Enter}",
-     u"abclo world", 4},
-    {"a move first spends the blanking", {u"hello world"}, false, "{Right}x{Enter}",
-     u"hxllo world", 3},
-    {"Home as first key spends the blanking", {u"hello"}, false, "{Home}x{Enter}", u"xello", 2},
-    {"insert into a full field drops the last character",
-     {u"abcdefghij", 10, u"C", u"E", 3}, true, "x{End}{Enter}", u"abxcdefghi", 10},
-    {"typing at the last position replaces and stays", {u"abc", 3, u"C", u"E", 3}, false,
-     "xy{Enter}", u"aby", 3},
-    {"Ctrl+R types the character left of the caret", {u"abcd", 20, u"C", u"E", 4}, false,
-     "{Ctrl+R}{Enter}", u"abcc", 5},
-    {"Ctrl+R as first key at 1 keeps only that character", {u"hello"}, false,
-     "{Ctrl+R}{Enter}", u"h", 2},
-    {"a key with no meaning does nothing, and spends the blanking", {u"hello"}, false,
-     "{Ctrl+A}{Alt+E}x{Enter}", u"xello", 2},
-};
+const Case kCases[] = {
+    // The first key blanks the field; overwrite keeps LU 11, insert counts up to 14.
+    {"abc{End}{Enter}", {u"hello world"}, u"abc", 12},
+    {"abc{End}{Enter}", {u"hello world"}, u"abc", 15, 13, true},
+    {"abc{Enter}", {u"hello world", 20, u"C", u"P"}, u"abclo world", 4},
+    {"abc{Enter}", At(u"hello world", 1), u"abclo world", 4},
+    {"{Right}x{Enter}", {u"hello world"}, u"hxllo world", 3},  // a move spends the blanking
+    {"{Home}x{Enter}", {u"hello"}, u"xello", 2},
+    {"{Ctrl+A}{Alt+E}x{Enter}", {u"hello"}, u"xello", 2},  // so does a key with no meaning
+    {"x{End}{Enter}", At(u"abcdefghij", 3, 10), u"abxcdefghi", 10, 13, true},  // full: drops j
+    {"xy{Enter}", At(u"abc", 3, 3), u"aby", 3},  // the last position replaces and stays
+    {"{Ctrl+R}{Enter}", At(u"abcd", 4), u"abcc", 5},  // types the character to the left
+    {"{Ctrl+R}{Enter}", {u"hello"}, u"h", 2},
 
-const CommandCase kEditingCases[] = {
-    {"blanking key leaves LU 1, End goes to 2", {u"hello", 20, u"C", u"E", 3}, false,
-     "{Esc}{End}{Enter}", u"", 2},
-    {"Ctrl+End at 1 leaves LU 0", {u"hello", 20, u"C", u"E", 1}, false,
-     "{Ctrl+End}{End}{Enter}", u"", 1},
-    {"Ctrl+End at 3 cuts the rest", {u"hello", 20, u"C", u"E", 3}, false,
-     "{Ctrl+End}{End}{Enter}", u"he", 3},
-    {"Delete at 1 of ab", {u"ab", 20, u"C", u"E", 1}, false, "{Delete}{End}{Enter}", u"b", 2},
-    {"Delete on the only character keeps LU 1", {u"a", 20, u"C", u"E", 1}, false,
-     "{Delete}{End}{Enter}", u"", 2},
-    {"Delete behind the text still lowers LU", {u"abc", 20, u"C", u"E", 10}, false,
-     "{Delete}{End}{Enter}", u"abc", 3},
-    {"Backspace moves left and deletes nothing", {u"abcdef", 20, u"C", u"E", 5}, false,
-     "{Backspace}{Enter}", u"abcdef", 4},
-    {"Left stops at 1", {u"ab", 20, u"C", u"E", 1}, false, "{Left}{Enter}", u"ab", 1},
-    {"Right stops at LC", {u"ab", 3, u"C", u"E", 3}, false, "{Right}{Enter}", u"ab", 3},
-    {"Tab from 3 goes to 10 as P + 7", {u"", 10, u"C", u"E", 3}, false, "{Tab}{Enter}", u"",
-     10},
-    {"Tab from 4 goes to 10 as LC", {u"", 10, u"C", u"E", 4}, false, "{Tab}{Enter}", u"", 10},
-    {"Tab from 1 goes to 8", {u"", 10, u"C", u"E", 1}, false, "{Tab}{Enter}", u"", 8},
-    {"Shift+Tab from 10 goes to 3", {u"", 10, u"C", u"E", 10}, false, "{Shift+Tab}{Enter}", u"",
-     3},
-    {"Shift+Tab from 7 goes to 1", {u"", 10, u"C", u"E", 7}, false, "{Shift+Tab}{Enter}", u"",
-     1},
-    {"Shift+Tab from 8 goes to 1", {u"", 10, u"C", u"E", 8}, false, "{Shift+Tab}{Enter}", u"",
-     1},
-};
+    {"{Esc}{End}{Enter}", At(u"hello", 3), u"", 2},  // the blanking key leaves LU 1
+    {"{Ctrl+End}{End}{Enter}", At(u"hello", 1), u"", 1},
+    {"{Ctrl+End}{End}{Enter}", At(u"hello", 3), u"he", 3},
+    {"{Delete}{End}{Enter}", At(u"ab", 1), u"b", 2},
+    {"{Delete}{End}{Enter}", At(u"a", 1), u"", 2},  // LU stays 1
+    {"{Delete}{End}{Enter}", At(u"abc", 10), u"abc", 3},  // behind the text LU still drops
+    {"{Ctrl+Right}{Enter}", At(u"abc.", 1), u"abc.", 1},  // words are letters and digits
+    {"{Ctrl+Right}{Enter}", At(u"été", 1), u"été", 2},
+    {"{Ctrl+Left}{Enter}", At(u"  abc", 3), u"  abc", 3},
 
-const CommandCase kWordMoveCases[] = {
-    {"word right from 1", {u"abc def", 20, u"C", u"E", 1}, false, "{Ctrl+Right}{Enter}",
-     u"abc def", 5},
-    {"word right from the last word stays", {u"abc def", 20, u"C", u"E", 5}, false,
-     "{Ctrl+Right}{Enter}", u"abc def", 5},
-    {"word right from the blank", {u"abc def", 20, u"C", u"E", 4}, false,
-     "{Ctrl+Right}{Enter}", u"abc def", 5},
-    {"word right with only punctuation after stays", {u"abc.", 20, u"C", u"E", 1}, false,
-     "{Ctrl+Right}{Enter}", u"abc.", 1},
-    {"é is no word character", {u"été", 20, u"C", u"E", 1}, false, "{Ctrl+Right}{Enter}",
-     u"été", 2},
-    {"word left from 5", {u"abc def", 20, u"C", u"E", 5}, false, "{Ctrl+Left}{Enter}",
-     u"abc def", 1},
-    {"word left from 6", {u"abc def", 20, u"C", u"E", 6}, false, "{Ctrl+Left}{Enter}",
-     u"abc def", 5},
-    {"word left from 1 stays", {u"abc def", 20, u"C", u"E", 1}, false, "{Ctrl+Left}{Enter}",
-     u"abc def", 1},
-    {"word left with no word to the left stays", {u"  abc", 20, u"C", u"E", 3}, false,
-     "{Ctrl+Left}{Enter}", u"  abc", 3},
-};
+    // The leaving keys; Shift+F1 is none.
+    {"{Up}", {u"abc"}, u"abc", 1, 38},       {"{Down}", {u"abc"}, u"abc", 1, 40},
+    {"{PgUp}", {u"abc"}, u"abc", 1, 33},     {"{PgDn}", {u"abc"}, u"abc", 1, 34},
+    {"{F1}", {u"abc"}, u"abc", 1, 112},      {"{F12}", {u"abc"}, u"abc", 1, 123},
+    {"{Shift+F1}{F5}", {u"abc"}, u"abc", 1, 116},
+    {"x{Down}", At(u"abc", 2), u"axc", 3, 40},
+    {"{Enter}", At(u"hello", 50, 10), u"hello", 10},  // Col lowered to LC
+    {"{Enter}", {u"abc", 10, u"C", u"V"}, u"abc", 4},
+    {"{Enter}", {u"", 10, u"C", u"V"}, u"", 1},
+    {"{Enter}", {u"abcdefghij", 10, u"C", u"V"}, u"abcdefghij", 10},
+    {"{Enter}", {u"abcdefghijkl", 10}, u"abcdefghi\x16", 1},  // too long: cut with mark 22
+    {"", {u"", 0}, u"", 1, 0},  // LCM 0 reads no key
+    {"{End}{Enter}", {u"abc", 5, u"C", u"Infini"}, u"abc", 4},
 
-const CommandCase kLeavingCases[] = {
-    {"Up leaves", {u"abc"}, false, "{Up}", u"abc", 1, 38},
-    {"Down leaves", {u"abc"}, false, "{Down}", u"abc", 1, 40},
-    {"Page Up leaves", {u"abc"}, false, "{PgUp}", u"abc", 1, 33},
-    {"Page Down leaves", {u"abc"}, false, "{PgDn}", u"abc", 1, 34},
-    {"F1 leaves", {u"abc"}, false, "{F1}", u"abc", 1, 112},
-    {"F12 leaves", {u"abc"}, false, "{F12}", u"abc", 1, 123},
-    {"Shift+F1 is outside the range", {u"abc"}, false, "{Shift+F1}{F5}", u"abc", 1, 116},
-    {"leaving keeps an edit in progress", {u"abc", 20, u"C", u"E", 2}, false, "x{Down}",
-     u"axc", 3, 40},
-};
+    {"12032024{Enter}", Date(u""), kDate, 10},
+    {"1/{Enter}", Date(u""), u"1//", 4},
+    {"{End}{Enter}", Date(u"12", 1), u"12/", 4},
+    {"{Shift+Tab}{Enter}", Date(kDate, 10), kDate, 4},  // lands on 3, moves on
+    {"3{Enter}", Date(kDate), u"32/03/2024", 2},  // the first key doesn't blank
+    {"9{Enter}", Date(kDate, 1), u"92/03/2024", 2, 13, true},  // always overwrites
+    {"{Delete}{Enter}", Date(kDate, 7), u"12/03/024", 7},
+    {"{Delete}{Enter}", Date(kDate, 4), kDate, 4},
+    {"{Ctrl+End}{Enter}", Date(kDate, 1), u"  /  /", 1},
+    {"{Esc}{Enter}", Date(kDate, 1), u"", 1},
+    {"n", YesNo(u"OUI"), u"NON", 1},
+    {"o", YesNo(u"NON"), u"OUI", 1},
+    {"xO", YesNo(u"OUI"), u"OUI", 1},  // a wrong character waits for the next
+    {"{Right}O{Enter}", YesNo(u"OUI"), u"OOI", 1},  // right of 1: stored, caret back
+    {"n", YesNo(u"O", 1), u"NON", 1},
+    {"x{Enter}", YesNo(u"OUI"), u"x", 1},
 
-const CommandCase kSetUpCases[] = {
-    {"E starts at Col, lowered to LC", {u"hello", 10, u"C", u"E", 50}, false, "{Enter}",
-     u"hello", 10},
-    {"V starts behind the text", {u"abc", 10, u"C", u"V"}, false, "{Enter}", u"abc", 4},
-    {"V on an empty text starts at 1", {u"", 10, u"C", u"V"}, false, "{Enter}", u"", 1},
-    {"V on a full text starts on its last character", {u"abcdefghij", 10, u"C", u"V"}, false,
-     "{Enter}", u"abcdefghij", 10},
-    {"a text longer than the field is cut with the mark 22", {u"abcdefghijkl", 10}, false,
-     "{Enter}", u"abcdefghi\x16", 1},
-    {"LCM 0 reads no key", {u"", 0}, false, "", u"", 1, 0},
-    {"Infini holds 1000 characters", {u"abc", 5, u"C", u"Infini"}, false, "{End}{Enter}",
-     u"abc", 4},
+    {"{Ctrl+V}{Enter}", At(u"hello", 3, 10), u"he01234567", 3, 13, true, u"0123456789ABCDEF"},
+    {"{Ctrl+V}{Enter}", At(u"hello world", 3, 11), u"heXYo world", 3, 13, false, u"XY"},
+    {"{Ctrl+V}{Enter}", At(u"hello", 5, 5), u"hellX", 5, 13, false, u"XYZ"},
+    // LU becomes LC in either mode, even for an empty clipboard.
+    {"{Ctrl+V}{End}{Enter}", At(u"abc", 1, 10), u"abc", 10, 13, false, u""},
+    {"{Ctrl+V}{End}{Enter}", At(u"abc", 2, 10), u"axbc", 10, 13, true, u"x"},
+    {"{Ctrl+V}{Enter}", At(u"ab", 2, 10), u"a\t\r\nb", 2, 13, true, u"\t\r\n"},  // no filter
+    {"{Ctrl+V}{Enter}", Date(kDate, 1), u"912/03/202", 1, 13, true, u"9"},  // shifts the '/'
 };
 // clang-format on
 
-INSTANTIATE_TEST_SUITE_P(Typing, KeyCommandTest, ::testing::ValuesIn(kTypingCases));
-INSTANTIATE_TEST_SUITE_P(Editing, KeyCommandTest, ::testing::ValuesIn(kEditingCases));
-INSTANTIATE_TEST_SUITE_P(WordMoves, KeyCommandTest, ::testing::ValuesIn(kWordMoveCases));
-INSTANTIATE_TEST_SUITE_P(Leaving, KeyCommandTest, ::testing::ValuesIn(kLeavingCases));
-INSTANTIATE_TEST_SUITE_P(SetUp, KeyCommandTest, ::testing::ValuesIn(kSetUpCases));
+INSTANTIATE_TEST_SUITE_P(Keys, KeyCommandTest, ::testing::ValuesIn(kCases));
+
+// The moves, through the caret positions the status line shows at each key.
+TEST_F(KeyCommandTest, MovesStopAtTheEdgesAndSkipDateSeparators) {
+  const std::tuple<Field, const char*, const char*> cases[] = {
+      {At(u"ab", 1, 3), "{Left}{Right}{Right}{Right}{Backspace}", "1|1|2|3|3|2|"},
+      {At(u"", 1, 10), "{Tab}{Tab}{Shift+Tab}{Shift+Tab}", "1|8|10|3|1|"},
+      {At(u"abc def", 1),
+       "{Ctrl+Right}{Ctrl+Right}{Ctrl+Left}{Ctrl+Left}{Right}{Right}{Right}{Ctrl+Right}{Right}"
+       "{Ctrl+Left}",
+       "1|5|5|1|1|2|3|4|5|6|5|"},
+      {Date(kDate, 2), "{Right}{Right}{Right}{Left}{Left}{Left}", "2|4|5|7|5|4|2|"},
+  };
+  for (const auto& [field, keys, trail] : cases) {
+    TakeLog();
+    EXPECT_EQ(Edit(field, std::string(keys) + "{Enter}").ch, field.ch) << keys;
+    EXPECT_EQ(Drawn(true), trail) << keys;
+  }
+}
+
+TEST_F(KeyCommandTest, YesNoAnswerEndsWithEnvToucheEntree) {
+  Env().ToucheEntree = 10;
+  const Outcome out = Edit(YesNo(u"OUI"), "n");
+  EXPECT_EQ(ToUtf8(out.ch), "NON");
+  EXPECT_EQ(out.tr, 10);
+}
+
+TEST_F(KeyCommandTest, InsertKeyTogglesOnlyOutsideDates) {
+  for (const bool before : {false, true}) {
+    St().Insertion = before;
+    Edit(Date(kDate, 1), "{Insert}{Enter}");
+    EXPECT_FALSE(St().Insertion) << "Insertion was " << before;
+  }
+  // In a yes/no field it toggles, without effect on the typing.
+  EXPECT_EQ(ToUtf8(Edit(YesNo(u"OUI"), "{Insert}{Right}x{Enter}").ch), "OxI");
+  EXPECT_TRUE(St().Insertion);
+}
 
 }  // namespace
 }  // namespace ferlan::testing
