@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <optional>
 
 #include "editor/editor_fixture.hpp"
 #include "forms/global.hpp"
@@ -34,36 +33,23 @@ class LockedClipboard final : public Clipboard {
   String GetText(Long) override { throw PlatformError::Host("clipboard", "locked"); }
 };
 
-// The session's host, but with a locked clipboard, in an apartment of its own
-// for the time of the test.
-class LockedClipboardTest : public EditorTest {
- protected:
-  void SetUp() override {
-    auto global = std::make_shared<forms::Global>(
-        session.Loop(),
-        forms::Screen(headless::Session::kScreenWidth, headless::Session::kScreenHeight),
-        std::make_unique<LockedClipboard>());
-    ClassRegistry registry;
-    // Not owned: the session keeps its environment and records.
-    kit::RegisterKit(registry, std::shared_ptr<kit::EnvState>(std::shared_ptr<void>(), &Env()),
-                     std::shared_ptr<kit::Records>(std::shared_ptr<void>(), &session.Records()));
-    registry.Register("Global", [global] { return global; });
-    apartment_.emplace(std::move(registry));
-  }
-  void TearDown() override {
-    apartment_.reset();
-    EditorTest::TearDown();
-  }
+TEST_F(ClipboardTest, ALockedClipboardPastesNothingButFailsACopy) {
+  // The session's host with a locked clipboard, in an apartment of its own;
+  // the session keeps its environment and records.
+  ClassRegistry registry;
+  kit::RegisterKit(registry, std::shared_ptr<kit::EnvState>(std::shared_ptr<void>(), &Env()),
+                   std::shared_ptr<kit::Records>(std::shared_ptr<void>(), &session.Records()));
+  auto global = std::make_shared<forms::Global>(
+      session.Loop(),
+      forms::Screen(headless::Session::kScreenWidth, headless::Session::kScreenHeight),
+      std::make_unique<LockedClipboard>());
+  registry.Register("Global", [global] { return global; });
+  const Apartment apartment(std::move(registry));
 
-  std::optional<Apartment> apartment_;
-};
-
-TEST_F(LockedClipboardTest, PasteReadsNothingButCopyFailsTheCaller) {
   const Outcome out = Edit(At(u"abc", 2, 10), "{Ctrl+V}{End}{Enter}");
   EXPECT_EQ(ToUtf8(out.ch), "abc");
   EXPECT_EQ(out.col, 10);  // LU still became LC
   EXPECT_EQ(out.tr, 13);
-
   ExpectPlatformError([&] { Edit(At(u"abc", 1, 10), "{Ctrl+C}{Enter}"); }, 51, "clipboard: locked");
   EXPECT_TRUE(session.Records().boxes.empty());
 }

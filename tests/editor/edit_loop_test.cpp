@@ -1,6 +1,5 @@
-// The pass and the end of Modif as the surface sees them: what is erased and
-// drawn at each key, the scrolling window, hidden and masked values, a field
-// on another surface, the abandon and the virtual keyboard.
+// The pass and the end of Modif as the surface sees them, the abandon and
+// the virtual keyboard.
 #include <gtest/gtest.h>
 
 #include "editor/caret_form.hpp"
@@ -24,14 +23,6 @@ TEST_F(EditLoopTest, EachPassDrawsStatusThenFieldAndTheEndRedrawsInBlack) {
             "EffaceRect 5332 8112 6487 8306 -1\nPave 5332 8112 6487 8305 -1\n"
             "Texte 5332 8112 \"Curseur   1\" 0\n" +
                 field + "8388608\n" + field + "0\n");
-
-  // Every key, one with no meaning too, is a pass: the field is redrawn and
-  // the status follows P.
-  Edit(At(u"hello", 1), "{Right}{Ctrl+A}{Enter}");
-  EXPECT_EQ(Drawn(true), "1|2|2|");
-  Edit(At(u"hello", 1), "{Right}{Ctrl+A}{Enter}");
-  const std::string hello = "hello               |";
-  EXPECT_EQ(Drawn(), hello + hello + hello + hello);
 
   // Another colour than "B": the end erases in Env.Blanc.
   Edit({u"abc", 5, u"C", u"E", 1, u"R"}, "{Enter}");
@@ -65,7 +56,7 @@ TEST_F(EditLoopTest, WindowScrollsAtTheEdgesAndJumpsBack) {
   EXPECT_EQ(Drawn(), "     |a    |ab   |abc  |abcd |bcde |cdef |defg |abcde|");
 }
 
-TEST_F(EditLoopTest, HiddenAndMaskedValuesAreNeverDrawnInClear) {
+TEST_F(EditLoopTest, HiddenMaskedAndDateValuesShowAsTheirKindWants) {
   TakeLog();
   const String hidden = u"\x01secret";
   EXPECT_EQ(Edit({hidden, 10, u"C", u"E", 5}, "{Enter}").ch, hidden);
@@ -77,10 +68,13 @@ TEST_F(EditLoopTest, HiddenAndMaskedValuesAreNeverDrawnInClear) {
 
   // Masked: two bullets at each pass, nothing at the end, and the caret at
   // P 4 follows the bullets (the first three of two).
-  EXPECT_EQ(ToUtf8(Edit({u"  ab  ", 6, u"C", u"I", 0}, "{Right}{Right}{Right}{Enter}").ch),
-            "  ab");
+  EXPECT_EQ(ToUtf8(Edit({u"  ab  ", 6, u"C", u"I", 0}, "{Right}{Right}{Right}{Enter}").ch), "  ab");
   EXPECT_EQ(Drawn(), "\u2022\u2022|\u2022\u2022|\u2022\u2022|\u2022\u2022|");
   EXPECT_EQ(CaretControl(St())->Left(), kCT + 2 * 105);
+
+  // A date's separator is typed in a pass of its own right after the digit before it.
+  Edit({u"", 10, u"D"}, "12{Enter}");
+  EXPECT_EQ(Drawn(), "          |1         |12        |12/       |12/       |");
 }
 
 TEST_F(EditLoopTest, FieldOnAnotherSurfaceKeepsTheStatusOnTheMainOne) {
@@ -117,10 +111,9 @@ TEST_F(EditLoopTest, AbandonLeavesAtOnceWithTheCaretTimersRunning) {
   // Nothing drawn after the last pass.
   EXPECT_TRUE(Drawn().ends_with("|hxllo     |"));
 
-  CaretForm& form = FeuilleCaret(St());
-  EXPECT_TRUE(form.TimerCaret->Enabled());
+  const CaretForm& form = FeuilleCaret(St());
+  EXPECT_TRUE(form.TimerCaret->Enabled() && form.TimerCaretCligote->Enabled());
   EXPECT_EQ(form.TimerCaret->Interval(), 1);
-  EXPECT_TRUE(form.TimerCaretCligote->Enabled());
   EXPECT_EQ(form.TimerCaretCligote->Interval(), 500);
   // Still running: the caret moves to P 3 and blinks on after the edit.
   Pump(2);
@@ -140,12 +133,6 @@ TEST_F(EditLoopTest, VirtualKeyboardTypesAndValidatesTheField) {
   // at position 1 afterwards still blanks.
   KySaisie{}.ClavierVirtuel(u"AB", 0, false);
   EXPECT_EQ(ToUtf8(Edit({u"hello", 10}, "{wait:20}z{Enter}").ch), "z");
-}
-
-TEST_F(EditLoopTest, DateSeparatorAppearsRightAfterTheDigitBeforeIt) {
-  TakeLog();
-  Edit({u"", 10, u"D"}, "12{Enter}");
-  EXPECT_EQ(Drawn(), "          |1         |12        |12/       |12/       |");
 }
 
 }  // namespace

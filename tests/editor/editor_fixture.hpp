@@ -19,7 +19,7 @@ struct Field {
   String ims = u"F";
   Integer col = 0;
   String coul = u"B";
-  Integer c = 5;  // grid column: only the scrolling uses it
+  Integer c = 5;                 // grid column: only the scrolling uses it
   PictureBoxRef zone = nullptr;  // another surface, with the caret's offset on it
   Single caret_x = 0;
   Single caret_y = 0;
@@ -37,17 +37,15 @@ struct Outcome {
 
 class EditorTest : public SessionTest {
  protected:
-  // The field's place: line 2, column 5 of the fixed-metric grid.
-  static constexpr Single kLT = 624;
+  // The field: line 2 (LT 624), column 5 (CT 525), in an entry box from
+  // CzT 420, LzT 2520 wide.
   static constexpr Single kCT = 525;
-  static constexpr Single kCzT = 420;
-  static constexpr Single kLzT = 2520;
 
   // Queues `keys`, then runs Modif on the field.
   Outcome Edit(const Field& field, std::string_view keys) {
     Type(keys);
     Outcome out{field.ch, 0, field.col};
-    KySaisie{}.Modif(kLT, field.c, kCT, field.lcm, kLzT, kCzT, field.tv, out.ch, out.tr, field.ims,
+    KySaisie{}.Modif(624, field.c, kCT, field.lcm, 2520, 420, field.tv, out.ch, out.tr, field.ims,
                      &out.col, field.coul, field.zone, field.caret_x, field.caret_y);
     return out;
   }

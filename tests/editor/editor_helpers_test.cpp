@@ -1,5 +1,7 @@
-// Ctrl_C, FnMot and FormatDate called directly, as a host may.
+// FnMot and FormatDate called directly, as a host may.
 #include <gtest/gtest.h>
+
+#include <tuple>
 
 #include "editor/editor_fixture.hpp"
 
@@ -16,31 +18,21 @@ TEST_F(EditorHelpersTest, FnMotAcceptsPlainLettersAndDigitsOnly) {
 }
 
 TEST_F(EditorHelpersTest, FormatDateWritesBothSeparatorsOnlyForD) {
-  String ch = Space(10);
-  KySaisie{}.FormatDate(ch, u"D");
-  EXPECT_EQ(ToUtf8(ch), "  /  /    ");
-  ch = u"12.03.2024";
-  KySaisie{}.FormatDate(ch, u"d");
-  KySaisie{}.FormatDate(ch, u"C");
-  EXPECT_EQ(ToUtf8(ch), "12.03.2024");
-  KySaisie{}.FormatDate(ch, u"D");
-  EXPECT_EQ(ToUtf8(ch), "12/03/2024");
-
-  // Six characters are enough; with fewer, error 5 after the first one.
-  ch = u"abcdef";
-  KySaisie{}.FormatDate(ch, u"D");
-  EXPECT_EQ(ToUtf8(ch), "ab/de/");
-  ch = u"abcde";
+  const std::tuple<String, String, std::string> cases[] = {
+      {Space(10), u"D", "  /  /    "},     {u"12.03.2024", u"D", "12/03/2024"},
+      {u"12.03.2024", u"d", "12.03.2024"}, {u"12.03.2024", u"C", "12.03.2024"},
+      {u"abcdef", u"D", "ab/de/"},
+  };
+  for (auto [ch, tv, want] : cases) {
+    KySaisie{}.FormatDate(ch, tv);
+    EXPECT_EQ(ToUtf8(ch), want);
+  }
+  // Shorter, it fails with error 5, after the first separator if there was room.
+  String ch = u"abcde";
   ExpectPlatformError([&] { KySaisie{}.FormatDate(ch, u"D"); }, 5);
   EXPECT_EQ(ToUtf8(ch), "ab/de");
   ch.clear();
   ExpectPlatformError([&] { KySaisie{}.FormatDate(ch, u"D"); }, 5);
-}
-
-TEST_F(EditorHelpersTest, CtrlCReplacesWhatTheClipboardHeld) {
-  session.SetClipboardText(u"a much longer text");
-  KySaisie{}.Ctrl_C(u"");
-  EXPECT_EQ(ToUtf8(session.ClipboardText()), "");
 }
 
 }  // namespace

@@ -39,77 +39,75 @@ constexpr const char16_t* kDate = u"12/03/2024";
 
 // clang-format off
 const Case kCases[] = {
-    // The first key blanks the field; overwrite keeps LU 11, insert counts up to 14.
+    // The first key blanks the field; overwrite keeps LU 11, insert counts it up to 14.
     {"abc{End}{Enter}", {u"hello world"}, u"abc", 12},
     {"abc{End}{Enter}", {u"hello world"}, u"abc", 15, 13, true},
     {"abc{Enter}", {u"hello world", 20, u"C", u"P"}, u"abclo world", 4},
     {"abc{Enter}", At(u"hello world", 1), u"abclo world", 4},
-    {"{Right}x{Enter}", {u"hello world"}, u"hxllo world", 3},  // a move spends the blanking
+    // A move spends the blanking, even to where the caret is; so does a key with no meaning.
+    {"{Right}x{Enter}", {u"hello world"}, u"hxllo world", 3},
     {"{Home}x{Enter}", {u"hello"}, u"xello", 2},
-    {"{Ctrl+A}{Alt+E}x{Enter}", {u"hello"}, u"xello", 2},  // so does a key with no meaning
+    {"{Ctrl+A}{Alt+E}x{Enter}", {u"hello"}, u"xello", 2},
     {"x{End}{Enter}", At(u"abcdefghij", 3, 10), u"abxcdefghi", 10, 13, true},  // full: drops j
     {"xy{Enter}", At(u"abc", 3, 3), u"aby", 3},  // the last position replaces and stays
-    {"{Ctrl+R}{Enter}", At(u"abcd", 4), u"abcc", 5},  // types the character to the left
+    {"{Ctrl+R}{Enter}", At(u"abcd", 4), u"abcc", 5},  // types the character left of the caret
     {"{Ctrl+R}{Enter}", {u"hello"}, u"h", 2},
-
-    {"{Esc}{End}{Enter}", At(u"hello", 3), u"", 2},  // the blanking key leaves LU 1
+    // Esc leaves LU 1, Ctrl+End at 1 leaves 0; Delete lowers it, behind the text too, to 1.
+    {"{Esc}{End}{Enter}", At(u"hello", 3), u"", 2},
     {"{Ctrl+End}{End}{Enter}", At(u"hello", 1), u"", 1},
     {"{Ctrl+End}{End}{Enter}", At(u"hello", 3), u"he", 3},
     {"{Delete}{End}{Enter}", At(u"ab", 1), u"b", 2},
-    {"{Delete}{End}{Enter}", At(u"a", 1), u"", 2},  // LU stays 1
-    {"{Delete}{End}{Enter}", At(u"abc", 10), u"abc", 3},  // behind the text LU still drops
-    {"{Ctrl+Right}{Enter}", At(u"abc.", 1), u"abc.", 1},  // words are letters and digits
+    {"{Delete}{End}{Enter}", At(u"a", 1), u"", 2},
+    {"{Delete}{End}{Enter}", At(u"abc", 10), u"abc", 3},
+    // Words are plain letters and digits.
+    {"{Ctrl+Right}{Enter}", At(u"abc.", 1), u"abc.", 1},
     {"{Ctrl+Right}{Enter}", At(u"été", 1), u"été", 2},
     {"{Ctrl+Left}{Enter}", At(u"  abc", 3), u"  abc", 3},
-
-    // The leaving keys; Shift+F1 is none.
+    // The leaving keys, in the middle of an edit too; Shift+F1 is none.
     {"{Up}", {u"abc"}, u"abc", 1, 38},       {"{Down}", {u"abc"}, u"abc", 1, 40},
     {"{PgUp}", {u"abc"}, u"abc", 1, 33},     {"{PgDn}", {u"abc"}, u"abc", 1, 34},
     {"{F1}", {u"abc"}, u"abc", 1, 112},      {"{F12}", {u"abc"}, u"abc", 1, 123},
     {"{Shift+F1}{F5}", {u"abc"}, u"abc", 1, 116},
     {"x{Down}", At(u"abc", 2), u"axc", 3, 40},
-    {"{Enter}", At(u"hello", 50, 10), u"hello", 10},  // Col lowered to LC
+    // The start: Col lowered to LC, V behind the text; too long cut with mark 22; LCM 0 reads no key.
+    {"{Enter}", At(u"hello", 50, 10), u"hello", 10},
     {"{Enter}", {u"abc", 10, u"C", u"V"}, u"abc", 4},
-    {"{Enter}", {u"", 10, u"C", u"V"}, u"", 1},
     {"{Enter}", {u"abcdefghij", 10, u"C", u"V"}, u"abcdefghij", 10},
-    {"{Enter}", {u"abcdefghijkl", 10}, u"abcdefghi\x16", 1},  // too long: cut with mark 22
-    {"", {u"", 0}, u"", 1, 0},  // LCM 0 reads no key
+    {"{Enter}", {u"abcdefghijkl", 10}, u"abcdefghi\x16", 1},
+    {"", {u"", 0}, u"", 1, 0},
     {"{End}{Enter}", {u"abc", 5, u"C", u"Infini"}, u"abc", 4},
-
-    {"12032024{Enter}", Date(u""), kDate, 10},
-    {"1/{Enter}", Date(u""), u"1//", 4},
+    // Dates: '/' types itself, no blanking, always overwrite, Delete only behind the second '/'.
+    {"12032024{Enter}", Date(u""), kDate, 10},          {"1/{Enter}", Date(u""), u"1//", 4},
     {"{End}{Enter}", Date(u"12", 1), u"12/", 4},
-    {"{Shift+Tab}{Enter}", Date(kDate, 10), kDate, 4},  // lands on 3, moves on
-    {"3{Enter}", Date(kDate), u"32/03/2024", 2},  // the first key doesn't blank
-    {"9{Enter}", Date(kDate, 1), u"92/03/2024", 2, 13, true},  // always overwrites
+    {"{Shift+Tab}{Enter}", Date(kDate, 10), kDate, 4},  // lands on 3 and moves on
+    {"3{Enter}", Date(kDate), u"32/03/2024", 2},
+    {"9{Enter}", Date(kDate, 1), u"92/03/2024", 2, 13, true},
     {"{Delete}{Enter}", Date(kDate, 7), u"12/03/024", 7},
     {"{Delete}{Enter}", Date(kDate, 4), kDate, 4},
-    {"{Ctrl+End}{Enter}", Date(kDate, 1), u"  /  /", 1},
-    {"{Esc}{Enter}", Date(kDate, 1), u"", 1},
-    {"n", YesNo(u"OUI"), u"NON", 1},
-    {"o", YesNo(u"NON"), u"OUI", 1},
-    {"xO", YesNo(u"OUI"), u"OUI", 1},  // a wrong character waits for the next
-    {"{Right}O{Enter}", YesNo(u"OUI"), u"OOI", 1},  // right of 1: stored, caret back
-    {"n", YesNo(u"O", 1), u"NON", 1},
-    {"x{Enter}", YesNo(u"OUI"), u"x", 1},
-
+    {"{Ctrl+End}{Enter}", Date(kDate, 1), u"  /  /", 1}, {"{Esc}{Enter}", Date(kDate, 1), u"", 1},
+    // Yes/no: an answer ends the field, a wrong one waits; right of 1 a character is stored.
+    {"n", YesNo(u"OUI"), u"NON", 1},         {"o", YesNo(u"NON"), u"OUI", 1},
+    {"xO", YesNo(u"OUI"), u"OUI", 1},        {"n", YesNo(u"O", 1), u"NON", 1},
+    {"{Right}O{Enter}", YesNo(u"OUI"), u"OOI", 1},  {"x{Enter}", YesNo(u"OUI"), u"x", 1},
+    // Paste: insert keeps the first LC characters, overwrite goes as far as the text; LU becomes
+    // LC in either mode, even for an empty clipboard; nothing is filtered; no date rule.
     {"{Ctrl+V}{Enter}", At(u"hello", 3, 10), u"he01234567", 3, 13, true, u"0123456789ABCDEF"},
     {"{Ctrl+V}{Enter}", At(u"hello world", 3, 11), u"heXYo world", 3, 13, false, u"XY"},
     {"{Ctrl+V}{Enter}", At(u"hello", 5, 5), u"hellX", 5, 13, false, u"XYZ"},
-    // LU becomes LC in either mode, even for an empty clipboard.
     {"{Ctrl+V}{End}{Enter}", At(u"abc", 1, 10), u"abc", 10, 13, false, u""},
     {"{Ctrl+V}{End}{Enter}", At(u"abc", 2, 10), u"axbc", 10, 13, true, u"x"},
-    {"{Ctrl+V}{Enter}", At(u"ab", 2, 10), u"a\t\r\nb", 2, 13, true, u"\t\r\n"},  // no filter
-    {"{Ctrl+V}{Enter}", Date(kDate, 1), u"912/03/202", 1, 13, true, u"9"},  // shifts the '/'
+    {"{Ctrl+V}{Enter}", At(u"ab", 2, 10), u"a\t\r\nb", 2, 13, true, u"\t\r\n"},
+    {"{Ctrl+V}{Enter}", Date(kDate, 1), u"912/03/202", 1, 13, true, u"9"},
 };
 // clang-format on
 
 INSTANTIATE_TEST_SUITE_P(Keys, KeyCommandTest, ::testing::ValuesIn(kCases));
 
-// The moves, through the caret positions the status line shows at each key.
+// The moves, through the caret positions the status line shows at each key (each
+// is a pass, one with no meaning too).
 TEST_F(KeyCommandTest, MovesStopAtTheEdgesAndSkipDateSeparators) {
   const std::tuple<Field, const char*, const char*> cases[] = {
-      {At(u"ab", 1, 3), "{Left}{Right}{Right}{Right}{Backspace}", "1|1|2|3|3|2|"},
+      {At(u"ab", 1, 3), "{Left}{Ctrl+A}{Right}{Right}{Right}{Backspace}", "1|1|1|2|3|3|2|"},
       {At(u"", 1, 10), "{Tab}{Tab}{Shift+Tab}{Shift+Tab}", "1|8|10|3|1|"},
       {At(u"abc def", 1),
        "{Ctrl+Right}{Ctrl+Right}{Ctrl+Left}{Ctrl+Left}{Right}{Right}{Right}{Ctrl+Right}{Right}"
