@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ferlan::kit {
@@ -12,264 +13,134 @@ namespace {
 
 std::string Show(const String& s) { return ToUtf8(s); }
 
-// Every text over a small alphabet of the characters that matter, up to
+// Every text over the characters that matter to the format, up to
 // `max_length` characters.
-std::vector<String> AllTexts(StringView alphabet, std::size_t max_length) {
+std::vector<String> AllTexts(std::size_t max_length) {
   std::vector<String> texts = {String()};
-  std::vector<String> last = texts;
-  for (std::size_t length = 1; length <= max_length; ++length) {
-    std::vector<String> next;
-    for (const String& t : last) {
-      for (char16_t c : alphabet) next.push_back(t + c);
+  for (std::size_t from = 0, to = 1, length = 1; length <= max_length; ++length) {
+    for (std::size_t i = from; i < to; ++i) {
+      for (char16_t c : StringView(u"[],\" a")) texts.push_back(texts[i] + c);
     }
-    texts.insert(texts.end(), next.begin(), next.end());
-    last = std::move(next);
+    from = std::exchange(to, texts.size());
   }
   return texts;
 }
 
-// Every removal shortens the list or ends it, and Suivant, NbElements and
-// Element agree on what the list holds.
-void ExpectReadsConsistently(const String& list) {
+// The elements that Suivant takes until the list is "[]". Each step must
+// shorten the list or end it, and Extrait must do just as Suivant.
+std::vector<String> ReadAll(const String& list) {
   Chaines chaines;
-  const Long count = chaines.NbElements(list);
+  std::vector<String> got;
   String rest = list;
-  Long taken = 0;
   while (rest != u"[]") {
     const String before = rest;
-    const String element = chaines.Suivant(rest);
-    ++taken;
-    ASSERT_TRUE(rest == u"[]" || rest.size() < before.size())
-        << "list " << Show(list) << ": " << Show(before) << " became " << Show(rest);
-    ASSERT_EQ(element, chaines.Element(list, taken)) << "list " << Show(list) << " #" << taken;
-    ASSERT_LE(taken, Len(list) + 1) << "list " << Show(list);
+    String by_extrait = rest;
+    String extracted;
+    chaines.Extrait(by_extrait, extracted);
+    got.push_back(chaines.Suivant(rest));
+    if ((rest != u"[]" && rest.size() >= before.size()) || by_extrait != rest ||
+        extracted != got.back()) {
+      ADD_FAILURE() << "reading " << Show(list) << ": " << Show(before) << " became " << Show(rest)
+                    << ", by Extrait " << Show(by_extrait);
+      break;
+    }
   }
-  EXPECT_EQ(count, taken) << "list " << Show(list);
-  EXPECT_EQ(chaines.Element(list, taken + 1), u"") << "list " << Show(list);
+  return got;
 }
 
-TEST(ChainesTest, AwkwardElementsComeBackExactly) {
-  const std::vector<String> awkward = {
-      u"",        u" ",          u"  ",        u"a",          u" a ",         u"[",
-      u"]",       u"[]",         u"[a]",       u"[a,b]",      u"[[a],[b,c]]", u",",
-      u"\"",      u"\"\"",       u"a,b",       u"[a",         u"a]",          u"x\"y",
-      u"[ [a] ]", u" [a] ",      u"[a] ",      u" [a]",       u"[\"a\"]",     u"\"a\"",
-      u"[,]",     u"[\"]",       u"[a,,b]",    u"été à Noël", u"\t\n",       u"[\"a,b\",c]",
-      u"@COL10",  u"Veuillez Taper sur Entrée pour Continuer"};
-  Chaines chaines;
-  for (const String& element : awkward) {
-    String list = u"[]";
-    chaines.Ajoute(list, u"first");
-    chaines.Ajoute(list, element);
-    chaines.Ajoute(list, element);
-    chaines.Ajoute(list, u"last");
-    SCOPED_TRACE("element " + Show(element) + " in " + Show(list));
-    Boolean ok = false;
-    Long pos = -1;
-    chaines.ListeValide(list, ok, pos);
-    EXPECT_TRUE(ok) << "wrong at " << pos;
-    EXPECT_EQ(chaines.NbElements(list), 4);
-    EXPECT_EQ(chaines.Element(list, 2), element);
-    EXPECT_EQ(chaines.Element(list, 3), element);
-    String rest = list;
-    EXPECT_EQ(chaines.Suivant(rest), u"first");
-    String e;
-    chaines.Extrait(rest, e);
-    EXPECT_EQ(e, element);
-    EXPECT_EQ(chaines.Suivant(rest), element);
-    EXPECT_EQ(chaines.Suivant(rest), u"last");
-    EXPECT_EQ(rest, u"[]");
+// 0 when ListeValide finds the list right, else the first wrong position.
+Long WrongAt(const String& list) {
+  Boolean ok = false;
+  Long pos = -1;
+  Chaines().ListeValide(list, ok, pos);
+  return ok ? 0 : (pos == 0 ? -1 : pos);
+}
 
+TEST(ChainesTest, EveryElementComesBackExactly) {
+  std::vector<String> elements = AllTexts(5);
+  for (const char16_t* longer : {u"[[a],[b,c]]", u"[\"a,b\",c]", u"été à Noël", u"\t\n",
+                                 u"Veuillez Taper sur Entrée pour Continuer"}) {
+    elements.push_back(longer);
+  }
+  Chaines chaines;
+  for (const String& element : elements) {
+    String list = u"[]";
+    for (const String& e : {String(u"first"), element, element, String(u"last")}) {
+      chaines.Ajoute(list, e);
+    }
+    SCOPED_TRACE("element " + Show(element) + " in " + Show(list));
+    ASSERT_EQ(ReadAll(list), (std::vector<String>{u"first", element, element, u"last"}));
+    ASSERT_EQ(chaines.NbElements(list), 4);
+    ASSERT_EQ(chaines.Element(list, 3), element);
+    ASSERT_EQ(WrongAt(list), 0);
     String alone = u"[]";
     chaines.Ajoute(alone, element);
-    EXPECT_EQ(chaines.Suivant(alone), element);
-    EXPECT_EQ(alone, u"[]");
+    ASSERT_EQ(chaines.Suivant(alone), element);
+    ASSERT_EQ(alone, u"[]");
   }
 }
 
-TEST(ChainesTest, EveryShortTextRoundTripsAsAnElement) {
+// Whatever the text, reading it ends, and NbElements and Element agree.
+TEST(ChainesTest, EveryShortTextReadsToTheEndConsistently) {
   Chaines chaines;
-  for (const String& element : AllTexts(u"[],\" a", 5)) {
-    String list = u"[]";
-    chaines.Ajoute(list, element);
-    chaines.Ajoute(list, element);
-    String rest = list;
-    ASSERT_EQ(chaines.Suivant(rest), element) << Show(list);
-    ASSERT_EQ(chaines.Suivant(rest), element) << Show(list);
-    ASSERT_EQ(rest, u"[]") << Show(list);
-    Boolean ok = false;
-    Long pos = 0;
-    chaines.ListeValide(list, ok, pos);
-    ASSERT_TRUE(ok) << Show(list) << " wrong at " << pos;
+  for (const String& list : AllTexts(6)) {
+    const std::vector<String> elements = ReadAll(list);
+    const auto count = static_cast<Long>(elements.size());
+    ASSERT_EQ(chaines.NbElements(list), count) << Show(list);
+    ASSERT_EQ(chaines.Element(list, 0) + chaines.Element(list, -1), u"") << Show(list);
+    for (Long i = 1; i <= count + 1; ++i) {
+      ASSERT_EQ(chaines.Element(list, i), i <= count ? elements[i - 1] : u"") << Show(list);
+    }
+    if (HasFailure()) return;
   }
 }
 
-TEST(ChainesTest, HandWrittenListsReadAsTheHostMeansThem) {
+TEST(ChainesTest, HandWrittenAndMalformedListsReadAsWritten) {
+  // The text, then the elements read from it. Blanks around a sublist or a
+  // quoted text are layout; in plain text they belong to the element.
+  // clang-format off
+  const std::vector<std::vector<String>> cases = {
+      {u"[@COL10,[NOM,Nom du client,A,30],@COULR,[DATEFAC,Date,D,,S3]]",
+       u"@COL10", u"[NOM,Nom du client,A,30]", u"@COULR", u"[DATEFAC,Date,D,,S3]"},
+      {u"[DATEFAC,Date,D,,S3]", u"DATEFAC", u"Date", u"D", u"", u"S3"},
+      {u"[ [B,Total : ] , \"x, y\" ,a b ]", u"[B,Total : ]", u"x, y", u"a b "},
+      {u"", u""}, {u"[", u""}, {u"abc", u"abc"}, {u"[a,b", u"a", u"b"}, {u"[a,]", u"a"},
+      {u"[,a]", u"", u"a"}, {u"[a]]", u"a]"}, {u"[[a]", u"[a"}, {u"[\"abc]", u"\"abc"},
+      {u"[\"a\"b,c]", u"\"a\"b", u"c"}, {u"[]]", u"]"}};
+  // clang-format on
   Chaines chaines;
-  String one = u"[Veuillez Taper sur Entrée pour Continuer]";
-  EXPECT_EQ(chaines.NbElements(one), 1);
-  EXPECT_EQ(chaines.Suivant(one), u"Veuillez Taper sur Entrée pour Continuer");
-  EXPECT_EQ(one, u"[]");
-
-  String screen =
-      u"[@COL10,[NOM,Nom du client,A,30],[CODE,Code,I0,5,ML],@COULR,"
-      u"[DATEFAC,Date de facture,D,,S3],[TOTAL,Total,D2,12,,C,20,S]]";
-  std::vector<String> elements;
-  while (screen != u"[]") elements.push_back(chaines.Suivant(screen));
-  const std::vector<String> expected = {u"@COL10",
-                                        u"[NOM,Nom du client,A,30]",
-                                        u"[CODE,Code,I0,5,ML]",
-                                        u"@COULR",
-                                        u"[DATEFAC,Date de facture,D,,S3]",
-                                        u"[TOTAL,Total,D2,12,,C,20,S]"};
-  EXPECT_EQ(elements, expected);
-
-  // Positions left empty by hand read as empty texts.
-  String field = u"[DATEFAC,Date de facture,D,,S3]";
-  EXPECT_EQ(chaines.Element(field, 4), u"");
-  EXPECT_EQ(chaines.Element(field, 5), u"S3");
-
-  // Blanks around a sublist or a quoted text are layout; in plain text they
-  // belong to the element.
-  String spaced = u"[ [B,Total : ] , \"x, y\" ,a b ]";
-  EXPECT_EQ(chaines.Suivant(spaced), u"[B,Total : ]");
-  EXPECT_EQ(chaines.Suivant(spaced), u"x, y");
-  EXPECT_EQ(chaines.Suivant(spaced), u"a b ");
-  EXPECT_EQ(spaced, u"[]");
-}
-
-TEST(ChainesTest, EmptyListStaysEmptyAndPositionsBeyondGiveEmptyText) {
-  Chaines chaines;
+  for (const auto& c : cases) {
+    EXPECT_EQ(ReadAll(c[0]), std::vector<String>(c.begin() + 1, c.end())) << Show(c[0]);
+  }
+  // Texts that are no list, or an unclosed one, read as before plus one.
+  const std::vector<std::vector<String>> added = {
+      {u"", u"x"}, {u"[", u"", u"x"}, {u"abc", u"abc", u"x"}, {u"[a,b", u"a", u"b", u"x"}};
+  for (const auto& c : added) {
+    String list = c[0];
+    chaines.Ajoute(list, u"x");
+    EXPECT_EQ(ReadAll(list), std::vector<String>(c.begin() + 1, c.end())) << Show(c[0]);
+  }
   String empty = u"[]";
   EXPECT_EQ(chaines.Suivant(empty), u"");
   EXPECT_EQ(empty, u"[]");
-  EXPECT_EQ(chaines.NbElements(u"[]"), 0);
-  const String list = u"[a,b]";
-  EXPECT_EQ(chaines.Element(list, 0), u"");
-  EXPECT_EQ(chaines.Element(list, -1), u"");
-  EXPECT_EQ(chaines.Element(list, 2), u"b");
-  EXPECT_EQ(chaines.Element(list, 3), u"");
-  EXPECT_EQ(chaines.Element(u"[]", 1), u"");
-}
-
-TEST(ChainesTest, MalformedListsShortenUntilEmpty) {
-  struct Case {
-    String list;
-    std::vector<String> elements;
-  };
-  const std::vector<Case> cases = {
-      {u"", {u""}},
-      {u"abc", {u"abc"}},
-      {u"a,b", {u"a,b"}},
-      {u"[", {u""}},
-      {u"[a", {u"a"}},
-      {u"[a,b", {u"a", u"b"}},
-      {u"[a,]", {u"a"}},
-      {u"[,a]", {u"", u"a"}},
-      {u"[a]]", {u"a]"}},
-      {u"[[a]", {u"[a"}},
-      {u"[\"abc]", {u"\"abc"}},
-      {u"[\"a\"b,c]", {u"\"a\"b", u"c"}},
-      {u"]", {u"]"}},
-      {u"[]]", {u"]"}},
-  };
-  Chaines chaines;
-  for (const Case& c : cases) {
-    String rest = c.list;
-    std::vector<String> got;
-    while (rest != u"[]" && got.size() <= c.list.size()) got.push_back(chaines.Suivant(rest));
-    EXPECT_EQ(got, c.elements) << "list " << Show(c.list);
-    ExpectReadsConsistently(c.list);
-  }
-}
-
-TEST(ChainesTest, EveryShortTextReadsConsistently) {
-  for (const String& list : AllTexts(u"[],\" a", 6)) {
-    ExpectReadsConsistently(list);
-    if (HasFatalFailure()) return;
-  }
-}
-
-TEST(ChainesTest, AjouteOnTextsThatAreNotListsKeepsWhatTheyRead) {
-  Chaines chaines;
-  struct Case {
-    String list;
-    std::vector<String> elements;
-  };
-  const std::vector<Case> cases = {
-      {u"", {u"x"}},
-      {u"abc", {u"abc", u"x"}},
-      {u"[a", {u"a", u"x"}},
-      {u"[", {u"", u"x"}},
-  };
-  for (const Case& c : cases) {
-    String list = c.list;
-    chaines.Ajoute(list, u"x");
-    std::vector<String> got;
-    while (list != u"[]") got.push_back(chaines.Suivant(list));
-    EXPECT_EQ(got, c.elements) << "list " << Show(c.list);
-  }
 }
 
 TEST(ChainesTest, ListeValideGivesTheFirstWrongPosition) {
-  struct Case {
-    String list;
-    bool ok;
-    Long pos;
-  };
-  const std::vector<Case> cases = {
-      {u"[]", true, 0},
-      {u"[a]", true, 0},
-      {u"[ ]", true, 0},
-      {u"[a,b]", true, 0},
-      {u"[[a],[b,[c]]]", true, 0},
-      {u"[\"a,]\",\"\"]", true, 0},
-      {u"[ [a] , \"b\" ]", true, 0},
-      {u"[Veuillez Taper sur Entrée pour Continuer]", true, 0},
-      {u"", false, 1},
-      {u"a", false, 1},
-      {u" []", false, 1},
-      {u"[", false, 2},
-      {u"[a", false, 3},
-      {u"[a]x", false, 4},
-      {u"[]]", false, 3},
-      {u"[a,,b]", false, 4},
-      {u"[,a]", false, 2},
-      {u"[a,]", false, 4},
-      {u"[a[b]]", false, 3},
-      {u"[a\"b\"]", false, 3},
-      {u"[\"a\"b]", false, 5},
-      {u"[\"ab]", false, 6},
-      {u"[[a]b]", false, 5},
-      {u"[[a],[b]", false, 9},
-  };
-  Chaines chaines;
-  for (const Case& c : cases) {
-    Boolean ok = !c.ok;
-    Long pos = -1;
-    const String before = c.list;
-    chaines.ListeValide(c.list, ok, pos);
-    EXPECT_EQ(ok, c.ok) << Show(c.list);
-    if (!c.ok) {
-      EXPECT_EQ(pos, c.pos) << Show(c.list);
-    }
-    EXPECT_EQ(c.list, before);
-  }
+  // The list, then 0 when valid or the first wrong position.
+  // clang-format off
+  const std::vector<std::pair<String, Long>> cases = {
+      {u"[]", 0}, {u"[ ]", 0}, {u"[[a],[b,[c]]]", 0}, {u"[\"a,]\",\"\"]", 0},
+      {u"[ [a] , \"b\" ]", 0}, {u"", 1}, {u"a", 1}, {u" []", 1}, {u"[", 2}, {u"[a", 3},
+      {u"[a]x", 4}, {u"[]]", 3}, {u"[a,,b]", 4}, {u"[,a]", 2}, {u"[a,]", 4}, {u"[a[b]]", 3},
+      {u"[a\"b\"]", 3}, {u"[\"a\"b]", 5}, {u"[\"ab]", 6}, {u"[[a]b]", 5}, {u"[[a],[b]", 9}};
+  // clang-format on
+  for (const auto& [list, wrong_at] : cases) EXPECT_EQ(WrongAt(list), wrong_at) << Show(list);
 }
 
 TEST(ChainesTest, DeepNestingReadsWithoutRecursion) {
-  const std::size_t depth = 100000;
-  String deep(depth, u'[');
-  deep += u'a';
-  deep += String(depth, u']');
-  Chaines chaines;
-  Boolean ok = false;
-  Long pos = 0;
-  chaines.ListeValide(deep, ok, pos);
-  EXPECT_TRUE(ok);
-  String rest = deep;
-  EXPECT_EQ(chaines.Suivant(rest), deep.substr(1, deep.size() - 2));
-  EXPECT_EQ(rest, u"[]");
+  const String deep = String(100000, u'[') + u"a" + String(100000, u']');
+  EXPECT_EQ(WrongAt(deep), 0);
+  EXPECT_EQ(ReadAll(deep), std::vector<String>{deep.substr(1, deep.size() - 2)});
 }
 
 }  // namespace
