@@ -1,9 +1,12 @@
-// Sizing the surface in lines and columns. The session's form is 12000 x 9000
-// (11880 x 8550 inside) with a hidden toolbar 420 high; the surface fills it
-// and has a border of 60, so it starts 11820 x 8490 inside.
+// Sizing the surface in lines and columns, and centring it. The session's
+// form is 12000 x 9000 (11880 x 8550 inside) with a hidden toolbar 420 high;
+// the surface fills it and has a border of 60, so it starts 11820 x 8490
+// inside. Growing the form runs its on_resize handler at once, as a host's
+// resize event does, and that handler may call back into the component.
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <sstream>
 
 #include "ferlan/kysaisie.hpp"
 #include "forms/form.hpp"
@@ -12,138 +15,152 @@
 namespace ferlan::testing {
 namespace {
 
-class WindowSizingTest : public SessionTest {
+class WindowTest : public SessionTest {
  protected:
-  std::shared_ptr<ferlan::Control> Toolbar() {
-    return std::dynamic_pointer_cast<ferlan::Control>(Form().Member("BarreOutils"));
+  void SetUp() override {
+    other->SetLeft(5);
+    other->SetTop(6);
+    other->SetWidth(100);
+    other->SetHeight(100);
   }
+  // The surface's inside, its place, and the form's size.
+  std::string Layout() {
+    std::ostringstream text;
+    text << Zone().ScaleWidth() << "x" << Zone().ScaleHeight() << " at " << Zone().Left() << ","
+         << Zone().Top() << " in " << Form().Width() << "x" << Form().Height();
+    return text.str();
+  }
+  // Whether a Centrage of `other` runs, which it can only with the guard down.
+  bool CentresAgain() {
+    other->SetLeft(5);
+    ky.Centrage(other);
+    return other->Left() == (Form().ScaleWidth() - 100) / 2 &&
+           other->Top() == (Form().ScaleHeight() - 100) / 2;
+  }
+  std::shared_ptr<forms::PictureBox> other = session.NewPictureBox();
   KySaisie ky;
 };
 
-TEST_F(WindowSizingTest, InitKyFPreparesFormAndFont) {
+TEST_F(WindowTest, InitKyFTakesTheFontSizeFromEnvOrElseFromDessin) {
   Form().SetBorderStyle(0);
   Zone().Font().SetSize(7);
   ky.InitKyF();
   EXPECT_TRUE(Form().KeyPreview());
   EXPECT_EQ(Form().BorderStyle(), 2);
   EXPECT_TRUE(Zone().Font().Bold());
-  // TaillePolice 0: the size is Dessin's.
   EXPECT_EQ(TakeLog(), "TaillePolice\n");
   EXPECT_EQ(Zone().Font().Size(), 10.0f);
-
   Env().TaillePolice = 12;
   ky.InitKyF();
   EXPECT_EQ(TakeLog(), "");
   EXPECT_EQ(Zone().Font().Size(), 12.0f);
 }
 
-TEST_F(WindowSizingTest, ANegativeSizeGoesToTheFontWhichRefusesIt) {
-  Env().TaillePolice = -3;
-  ExpectPlatformError([&] { ky.InitKyF(); }, 5);
-  // What was set before stays set.
-  EXPECT_TRUE(Form().KeyPreview());
-  EXPECT_TRUE(Zone().Font().Bold());
-  EXPECT_EQ(Zone().Font().Size(), 10.0f);
-}
-
-TEST_F(WindowSizingTest, DimensionFeuilleMakesLinesAndEightyFourColumnsAndCentres) {
+TEST_F(WindowTest, DimensionFeuilleSizesInLinesAndColumnsAndCentres) {
   ky.DimensionFeuille(25);
   EXPECT_EQ(TakeLog(), "Hauteur 7800 False\nLargeur 8820 False\n");
   EXPECT_EQ(Zone().ScaleHeight(), ky.WinLigne(25));
   EXPECT_EQ(Zone().ScaleWidth(), ky.WinCol(84));
-  // Centred in the form, which did not need to grow.
-  EXPECT_EQ(Zone().Left(), 1500.0f);  // (11880 - 8880) / 2
-  EXPECT_EQ(Zone().Top(), 345.0f);    // (8550 - 7860) / 2
-  EXPECT_EQ(Form().Width(), 12000.0f);
-  EXPECT_EQ(Form().Height(), 9000.0f);
-}
+  // Centred in the form, which did not grow: (11880 - 8880) / 2, (8550 - 7860) / 2.
+  EXPECT_EQ(Layout(), "8820x7800 at 1500,345 in 12000x9000");
 
-TEST_F(WindowSizingTest, MinusOneLeavesTheWidthAndTheSurfaceIsCentredAllTheSame) {
-  ky.DimensionFeuille(25, -1);
-  EXPECT_EQ(TakeLog(), "Hauteur 7800 False\n");
-  EXPECT_EQ(Zone().ScaleWidth(), 11820.0f);
-  EXPECT_EQ(Zone().Left(), 0.0f);
-  EXPECT_EQ(Zone().Top(), 345.0f);
-}
-
-TEST_F(WindowSizingTest, QueSiInfKeepsALargerSurfaceButStillCentres) {
+  // -1 leaves the width, and QueSiInf a larger surface; both centre all the same.
   Zone().SetLeft(123);
+  ky.DimensionFeuille(20, -1);
+  EXPECT_EQ(TakeLog(), "Hauteur 6240 False\n");
+  EXPECT_EQ(Layout(), "8820x6240 at 1500,1125 in 12000x9000");
   Zone().SetTop(456);
-  ky.DimensionFeuilleLT(20, 5000, true);
-  EXPECT_EQ(TakeLog(), "Hauteur 6240 True\nLargeur 5420 True\n");
-  EXPECT_EQ(Zone().ScaleHeight(), 8490.0f);
-  EXPECT_EQ(Zone().ScaleWidth(), 11820.0f);
-  EXPECT_EQ(Zone().Left(), 0.0f);
-  EXPECT_EQ(Zone().Top(), 0.0f);
+  ky.DimensionFeuilleLT(15, 5000, true);
+  EXPECT_EQ(TakeLog(), "Hauteur 4680 True\nLargeur 5420 True\n");
+  EXPECT_EQ(Layout(), "8820x6240 at 1500,1125 in 12000x9000");
 }
 
-TEST_F(WindowSizingTest, ASurfaceLargerThanTheFormGrowsTheForm) {
+TEST_F(WindowTest, ASurfaceLargerThanTheFormGrowsTheFormUnlessMaximised) {
   ky.DimensionFeuille(30, 120);
   EXPECT_EQ(TakeLog(), "Hauteur 9360 False\nLargeur 13020 False\nRecadre\n");
-  // Height: 9000 - 8550 + 9420 (the surface with its border) + 15 x MargeY.
-  EXPECT_EQ(Form().Height(), 9885.0f);
-  // Width: no margin.
-  EXPECT_EQ(Form().ScaleWidth(), Zone().Width());
-  EXPECT_EQ(Zone().Left(), 0.0f);
-  EXPECT_EQ(Zone().Top(), 7.5f);  // (9435 - 9420) / 2, in floating point
-}
+  // Height: 9000 - 8550 + 9420 (the surface with its border) + 15 x MargeY;
+  // width: no margin. The top is (9435 - 9420) / 2, in floating point.
+  EXPECT_EQ(Layout(), "13020x9360 at 0,7.5 in 13200x9885");
 
-TEST_F(WindowSizingTest, AVisibleToolbarTakesItsHeightFromTheForm) {
-  Toolbar()->SetVisible(true);
+  // A visible toolbar takes its height from the form: 9000 - 8550 + 420 +
+  // 9420 + 2 x 15, and the top is 420 + (9870 - 420 - 9420) / 2.
+  std::dynamic_pointer_cast<ferlan::Control>(Form().Member("BarreOutils"))->SetVisible(true);
   Env().MargeY = 2;
   ky.DimensionFeuille(30, 120);
-  EXPECT_EQ(Form().Height(), 10320.0f);  // 9000 - 8550 + 420 + 9420 + 30
-  EXPECT_EQ(Zone().Top(), 435.0f);       // 420 + (9870 - 420 - 9420) / 2
-}
+  EXPECT_EQ(TakeLog(), "Hauteur 9360 False\nLargeur 13020 False\nRecadre\n");
+  EXPECT_EQ(Layout(), "13020x9360 at 0,435 in 13200x10320");
 
-TEST_F(WindowSizingTest, AMaximisedFormKeepsItsSizeAndTheSurfaceIsStillPlaced) {
+  // Maximised, the form keeps the screen's 28800 x 16200, and the surface,
+  // larger than the room, goes to (28680 - 31980) / 2, 420 + (15750 - 420 -
+  // 18780) / 2.
   Form().SetWindowState(2);
-  const Single width = Form().Width();
-  const Single height = Form().Height();
   ky.DimensionFeuille(60, 300);
   EXPECT_EQ(TakeLog(), "Hauteur 18720 False\nLargeur 31920 False\n");
-  EXPECT_EQ(Form().Width(), width);
-  EXPECT_EQ(Form().Height(), height);
-  // Larger than the room: negative places.
-  EXPECT_EQ(Zone().Left(), (Form().ScaleWidth() - 31980) / 2);
-  EXPECT_EQ(Zone().Top(), (Form().ScaleHeight() - 18780) / 2);
-  EXPECT_LT(Zone().Left(), 0.0f);
+  EXPECT_EQ(Layout(), "31920x18720 at -1650,-1305 in 28800x16200");
 }
 
-TEST_F(WindowSizingTest, EspaceFeuilleWithRoomEnoughMovesNothing) {
+TEST_F(WindowTest, EspaceFeuilleGrowsOnlyToWhatIsAsked) {
+  // Room enough: nothing moves, no Centrage either.
   Zone().SetLeft(11);
   Zone().SetTop(13);
   ky.AffPos(5, 1);
   EXPECT_EQ(ky.EspaceFeuille(5000, 1000), 5);
   EXPECT_EQ(TakeLog(), "");
-  // No Centrage either.
-  EXPECT_EQ(Zone().Left(), 11.0f);
-  EXPECT_EQ(Zone().Top(), 13.0f);
-}
+  EXPECT_EQ(Layout(), "11820x8490 at 11,13 in 12000x9000");
 
-TEST_F(WindowSizingTest, EspaceFeuilleGrowsToExactlyWhatIsAsked) {
-  ky.AffPos(5, 1);
   EXPECT_EQ(ky.EspaceFeuille(12000, 0), 5);
   EXPECT_EQ(TakeLog(), "Largeur 12000 False\nRecadre\n");
-  EXPECT_EQ(Zone().ScaleWidth(), 12000.0f);
-
-  // Height below the top of the current line: 6240 + 3000.
+  // Height below the top of the current line: 6240 + 3000; the form grows
+  // to 9000 - 8550 + 9300 + 15 and centres it at (9315 - 9300) / 2.
   ky.AffPos(20, 1);
   EXPECT_EQ(ky.EspaceFeuille(100, 3000), 20);
   EXPECT_EQ(TakeLog(), "Hauteur 9240 False\nRecadre\n");
-  EXPECT_EQ(Zone().ScaleHeight(), 9240.0f);
-  EXPECT_EQ(Form().Height(), 9765.0f);  // 9000 - 8550 + 9300 + 15
+  EXPECT_EQ(Layout(), "12000x9240 at 0,7.5 in 12180x9765");
 }
 
-TEST_F(WindowSizingTest, AFormWithoutToolbarFailsEverySizing) {
-  auto bare = std::make_shared<forms::Form>(1, 28800, 16200);
-  bare->SetWidth(12000);
-  bare->SetHeight(9000);
-  Env().form = bare;
+TEST_F(WindowTest, MargeBasseMakesTheFormTallerButDoesNotMoveTheCentre) {
+  ky.Centrage(session.SurfaceRef(), 1000);
+  EXPECT_EQ(TakeLog(), "Recadre\n");
+  // 9000 - 8550 + 8550 (the surface) + 1000 + 15; the top is (9565 - 8550) / 2.
+  EXPECT_EQ(Layout(), "11820x8490 at 0,507.5 in 12000x10015");
+}
+
+TEST_F(WindowTest, ACentrageFromInsideACentrageLeavesItsControlUntouched) {
+  int resizes = 0;
+  Form().on_resize = [&] {
+    ++resizes;
+    KySaisie{}.Centrage(other);
+  };
+  ky.DimensionFeuille(30, 120);  // grows the form's height and width
+  EXPECT_EQ(resizes, 2);
+  EXPECT_EQ(other->Left(), 5.0f);
+  EXPECT_EQ(other->Top(), 6.0f);
+  // The outer call completed, and once it has ended a Centrage runs again.
+  EXPECT_EQ(Layout(), "13020x9360 at 0,7.5 in 13200x9885");
+  Form().on_resize = nullptr;
+  EXPECT_TRUE(CentresAgain());
+}
+
+TEST_F(WindowTest, ErrorsInsideCentrageLeaveTheGuardDown) {
+  Form().on_resize = [] { throw PlatformError::InvalidCall("resize refused"); };
+  ExpectPlatformError([&] { ky.DimensionFeuille(30, 120); }, 5);
+  // The height had been set when the handler failed; the width had not.
+  EXPECT_EQ(Form().Height(), 9885.0f);
+  EXPECT_EQ(Form().Width(), 12000.0f);
+  Form().on_resize = nullptr;
+  EXPECT_TRUE(CentresAgain());
+
+  // Nothing to centre is an object error; a form without toolbar fails
+  // every sizing, after the surface was sized.
+  ExpectPlatformError([&] { ky.Centrage(nullptr); }, 91);
+  auto form = Env().form;
+  Env().form = std::make_shared<forms::Form>(1, 28800, 16200);
+  TakeLog();
   ExpectPlatformError([&] { ky.DimensionFeuille(25); }, 438);
-  // The surface was sized before the centring failed.
   EXPECT_EQ(TakeLog(), "Hauteur 7800 False\nLargeur 8820 False\n");
-  EXPECT_EQ(Zone().ScaleWidth(), 8820.0f);
+  ExpectPlatformError([&] { ky.Centrage(other); }, 438);
+  Env().form = form;
+  EXPECT_TRUE(CentresAgain());
 }
 
 }  // namespace
