@@ -136,9 +136,7 @@ TEST_F(CaretTest, BlinkPhaseCarriesOverUnlessTheCaretMovesSideways) {
 }
 
 TEST_F(CaretTest, FormWithoutCaretFailsAtSetUp) {
-  Env().form =
-      std::make_shared<forms::Form>(headless::Session::kFormHandle, headless::Session::kScreenWidth,
-                                    headless::Session::kScreenHeight);
+  Env().form = std::make_shared<forms::Form>(headless::Session::kFormHandle, 28800, 16200);
   ExpectPlatformError([&] { Edit({u"abc"}, ""); }, 438);
 }
 

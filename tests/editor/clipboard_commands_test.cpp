@@ -14,15 +14,12 @@ using ClipboardTest = EditorTest;
 
 TEST_F(ClipboardTest, CopyTakesTheTrimmedRestAndShowsItUntrimmed) {
   session.SetClipboardText(u"old");
-  const Outcome out = Edit(At(u"abc def  ", 4, 9), "{Ctrl+C}{Enter}");
+  EXPECT_EQ(Edit(At(u"abc def  ", 4, 9), "{Ctrl+C}{Enter}"), (Outcome{u"abc def", 13, 4}));
   EXPECT_EQ(ToUtf8(session.ClipboardText()), "def");
   ASSERT_EQ(session.Records().boxes.size(), 1u);
   const kit::BoxReport& box = session.Records().boxes[0];
-  EXPECT_EQ(ToUtf8(box.style), "Information");
-  EXPECT_EQ(ToUtf8(box.title), "Presse Papier");
-  EXPECT_EQ(ToUtf8(box.text), "@ def  @ est dans le Presse Papier");
-  EXPECT_EQ(ToUtf8(out.ch), "abc def");
-  EXPECT_EQ(out.col, 4);
+  EXPECT_EQ(ToUtf8(box.style + u"|" + box.title + u"|" + box.text),
+            "Information|Presse Papier|@ def  @ est dans le Presse Papier");
 }
 
 // A clipboard that can't be opened, as when another program holds it.
@@ -46,10 +43,8 @@ TEST_F(ClipboardTest, ALockedClipboardPastesNothingButFailsACopy) {
   registry.Register("Global", [global] { return global; });
   const Apartment apartment(std::move(registry));
 
-  const Outcome out = Edit(At(u"abc", 2, 10), "{Ctrl+V}{End}{Enter}");
-  EXPECT_EQ(ToUtf8(out.ch), "abc");
-  EXPECT_EQ(out.col, 10);  // LU still became LC
-  EXPECT_EQ(out.tr, 13);
+  // Paste reads nothing, but LU still becomes LC.
+  EXPECT_EQ(Edit(At(u"abc", 2, 10), "{Ctrl+V}{End}{Enter}"), (Outcome{u"abc", 13, 10}));
   ExpectPlatformError([&] { Edit(At(u"abc", 1, 10), "{Ctrl+C}{Enter}"); }, 51, "clipboard: locked");
   EXPECT_TRUE(session.Records().boxes.empty());
 }

@@ -104,10 +104,9 @@ TEST_F(EditLoopTest, FieldOnAnotherSurfaceKeepsTheStatusOnTheMainOne) {
 TEST_F(EditLoopTest, AbandonLeavesAtOnceWithTheCaretTimersRunning) {
   Env().active_window = session.Form().hWnd();
   TakeLog();
-  const Outcome out = Edit({u"hello", 10, u"C", u"F", 7}, "{Right}x{abandon}");
-  EXPECT_EQ(out.tr, 0);
-  EXPECT_EQ(ToUtf8(out.ch), "hxllo     ");  // padded, with the edits so far
-  EXPECT_EQ(out.col, 7);                    // not written
+  // TR 0, the text padded with the edits so far, Col not written.
+  EXPECT_EQ(Edit({u"hello", 10, u"C", u"F", 7}, "{Right}x{abandon}"),
+            (Outcome{u"hxllo     ", 0, 7}));
   // Nothing drawn after the last pass.
   EXPECT_TRUE(Drawn().ends_with("|hxllo     |"));
 
@@ -123,10 +122,8 @@ TEST_F(EditLoopTest, AbandonLeavesAtOnceWithTheCaretTimersRunning) {
 
 TEST_F(EditLoopTest, VirtualKeyboardTypesAndValidatesTheField) {
   KySaisie{}.ClavierVirtuel(u"AB", 13, true);
-  const Outcome out = Edit({u"xyz", 10}, "");
-  EXPECT_EQ(ToUtf8(out.ch), "AB");  // the blanking key came first
-  EXPECT_EQ(out.tr, 13);
-  EXPECT_EQ(out.col, 1);  // Home came before the validating key
+  // The blanking key came first, and Home before the validating key.
+  EXPECT_EQ(Edit({u"xyz", 10}, ""), (Outcome{u"AB", 13, 1}));
   EXPECT_FALSE(session.EndCall());
 
   // VideAvant False: the text goes in at the caret, and a real character

@@ -3,6 +3,7 @@
 // plays through the event loop.
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <string_view>
 
@@ -33,6 +34,10 @@ struct Outcome {
   String ch;
   Integer tr = -1;
   Integer col = -1;
+  bool operator==(const Outcome&) const = default;
+  friend void PrintTo(const Outcome& o, std::ostream* os) {
+    *os << "\"" << ToUtf8(o.ch) << "\" TR " << o.tr << " Col " << o.col;
+  }
 };
 
 class EditorTest : public SessionTest {

@@ -27,10 +27,7 @@ TEST_P(KeyCommandTest, GivesTheCallerTheEditedField) {
   SCOPED_TRACE("keys " + std::string(c.keys) + " on \"" + ToUtf8(c.field.ch) + "\"");
   St().Insertion = c.insertion;
   if (c.clipboard != nullptr) session.SetClipboardText(c.clipboard);
-  const Outcome out = Edit(c.field, c.keys);
-  EXPECT_EQ(ToUtf8(out.ch), ToUtf8(c.want_ch));
-  EXPECT_EQ(out.col, c.want_col);
-  EXPECT_EQ(out.tr, c.want_tr);
+  EXPECT_EQ(Edit(c.field, c.keys), (Outcome{c.want_ch, c.want_tr, c.want_col}));
 }
 
 Field Date(String ch, Integer col = 0) { return {ch, 10, u"D", col == 0 ? u"F" : u"E", col}; }
@@ -60,6 +57,7 @@ const Case kCases[] = {
     {"{Delete}{End}{Enter}", At(u"a", 1), u"", 2},
     {"{Delete}{End}{Enter}", At(u"abc", 10), u"abc", 3},
     // Words are plain letters and digits.
+    {"{Ctrl+Right}{Enter}", At(u"abc def", 1), u"abc def", 5},
     {"{Ctrl+Right}{Enter}", At(u"abc.", 1), u"abc.", 1},
     {"{Ctrl+Right}{Enter}", At(u"été", 1), u"été", 2},
     {"{Ctrl+Left}{Enter}", At(u"  abc", 3), u"  abc", 3},
@@ -77,18 +75,20 @@ const Case kCases[] = {
     {"", {u"", 0}, u"", 1, 0},
     {"{End}{Enter}", {u"abc", 5, u"C", u"Infini"}, u"abc", 4},
     // Dates: '/' types itself, no blanking, always overwrite, Delete only behind the second '/'.
-    {"12032024{Enter}", Date(u""), kDate, 10},          {"1/{Enter}", Date(u""), u"1//", 4},
+    {"12032024{Enter}", Date(u""), kDate, 10},
+    {"1/{Enter}", Date(u""), u"1//", 4},
     {"{End}{Enter}", Date(u"12", 1), u"12/", 4},
     {"{Shift+Tab}{Enter}", Date(kDate, 10), kDate, 4},  // lands on 3 and moves on
     {"3{Enter}", Date(kDate), u"32/03/2024", 2},
     {"9{Enter}", Date(kDate, 1), u"92/03/2024", 2, 13, true},
     {"{Delete}{Enter}", Date(kDate, 7), u"12/03/024", 7},
     {"{Delete}{Enter}", Date(kDate, 4), kDate, 4},
-    {"{Ctrl+End}{Enter}", Date(kDate, 1), u"  /  /", 1}, {"{Esc}{Enter}", Date(kDate, 1), u"", 1},
+    {"{Ctrl+End}{Enter}", Date(kDate, 1), u"  /  /", 1},
+    {"{Esc}{Enter}", Date(kDate, 1), u"", 1},
     // Yes/no: an answer ends the field, a wrong one waits; right of 1 a character is stored.
     {"n", YesNo(u"OUI"), u"NON", 1},         {"o", YesNo(u"NON"), u"OUI", 1},
     {"xO", YesNo(u"OUI"), u"OUI", 1},        {"n", YesNo(u"O", 1), u"NON", 1},
-    {"{Right}O{Enter}", YesNo(u"OUI"), u"OOI", 1},  {"x{Enter}", YesNo(u"OUI"), u"x", 1},
+    {"x{Enter}", YesNo(u"OUI"), u"x", 1},    {"{Right}O{Enter}", YesNo(u"OUI"), u"OOI", 1},
     // Paste: insert keeps the first LC characters, overwrite goes as far as the text; LU becomes
     // LC in either mode, even for an empty clipboard; nothing is filtered; no date rule.
     {"{Ctrl+V}{Enter}", At(u"hello", 3, 10), u"he01234567", 3, 13, true, u"0123456789ABCDEF"},
@@ -124,9 +124,7 @@ TEST_F(KeyCommandTest, MovesStopAtTheEdgesAndSkipDateSeparators) {
 
 TEST_F(KeyCommandTest, YesNoAnswerEndsWithEnvToucheEntree) {
   Env().ToucheEntree = 10;
-  const Outcome out = Edit(YesNo(u"OUI"), "n");
-  EXPECT_EQ(ToUtf8(out.ch), "NON");
-  EXPECT_EQ(out.tr, 10);
+  EXPECT_EQ(Edit(YesNo(u"OUI"), "n"), (Outcome{u"NON", 10, 1}));
 }
 
 TEST_F(KeyCommandTest, InsertKeyTogglesOnlyOutsideDates) {
