@@ -1,170 +1,171 @@
-// The form as a person sees it: what Aff, the kit's Dessin and the caret put
-// on the screen, read back from the composed picture and from its PNG file.
+// The form as a person sees it, drawn in pixels: what Aff, the caret and the
+// kit's Dessin put on the screen, read back from the composed picture.
 #include "raster/form_picture.hpp"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
-#include <string>
+#include <vector>
 
 #include "editor/caret_bitmaps.hpp"
-#include "platform/raster/raster_form_fixture.hpp"
+#include "headless/session.hpp"
+#include "kit/dessin.hpp"
 #include "raster/picture_files.hpp"
-#include "raster/pixel_words.hpp"
+#include "raster/raster_canvas.hpp"
 
 namespace ferlan::raster {
 namespace {
 
-constexpr Long kWhite = 0x00FFFFFF;
+constexpr Long kWhite = 0x00FFFFFF, kFace = 0x00F0F0F0;  // kFace: the form's back colour
+// The surface's inner area, 600 x 400 pixels, starts after its 2-pixel border.
+constexpr int kOx = 300 / 15 + 2, kOy = 600 / 15 + 2;
 
-Long At(const forms::Bitmap& picture, int x, int y) {
-  return ColourOfRgb(picture.Pixel(x, y));
-}
+Long At(const forms::Bitmap& picture, int x, int y) { return ColourOfRgb(picture.Pixel(x, y)); }
 
-// A box of pixels, both ends included.
-struct PixelBox {
-  int x0, y0, x1, y1;
-  bool Holds(int x, int y) const { return x >= x0 && x <= x1 && y >= y0 && y <= y1; }
+// A headless session whose picture controls draw in pixels, its surface moved
+// inside the form so that the form's own back colour shows around it.
+class FormPictureTest : public ::testing::Test {
+ protected:
+  FormPictureTest() {
+    surface->SetLeft(300);
+    surface->SetTop(600);
+    surface->SetWidth(9060);
+    surface->SetHeight(6060);
+  }
+  std::shared_ptr<forms::Bitmap> Compose() { return ComposeForm(*form, surface.get()); }
+  std::vector<forms::Rgb> Shown() {  // what the surface's canvas shows
+    return std::dynamic_pointer_cast<forms::Bitmap>(surface->Image())->Pixels();
+  }
+  std::shared_ptr<forms::PictureBox> Box(const char* name) {
+    return std::dynamic_pointer_cast<forms::PictureBox>(form->Member(name));
+  }
+
+  headless::Session session{RasterCanvasFactory()};
+  kit::EnvState& env = session.Env();
+  std::shared_ptr<forms::Form> form = session.FormRef();
+  std::shared_ptr<forms::PictureBox> surface = session.SurfaceRef();
+  Control& toolbar = dynamic_cast<Control&>(*form->Member("BarreOutils"));
 };
 
-// Yellow over blue: a blend of the two has red = green and blue at most 0xC0.
-bool YellowOnBlue(Long c) {
-  const int r = c & 0xFF, g = (c >> 8) & 0xFF, b = (c >> 16) & 0xFF;
-  return r == g && b <= 0xC0 && !(r == 0 && b == 0);
-}
-
-TEST(FormPictureTest, AffInCodeIShowsYellowTextOnABlueBoxExactlyWhereAffPutIt) {
-  RasterForm f;
+TEST_F(FormPictureTest, AffInCodeIShowsYellowTextOnABlueBoxExactlyWhereAffPutIt) {
   KySaisie ky;
   const String text = u"FACTURE N\u00b0 1024";
   const Long y = 390;
   const Single x = 210;
   ky.AfficheT(y, x, u"I", text);
-
   // The box of Aff: from (X, Y) to (X + W, Y + HauteurTexte - 2 x MargeY),
   // W being the measured width rounded.
-  const double right = x + static_cast<double>(CLng(ky.LargeurTexte(text)));
-  const double bottom = y + static_cast<double>(ky.HauteurTexte()) - 2 * f.env->MargeY;
-  const auto picture = ComposeForm(*f.form, f.surface.get());
-  ASSERT_EQ(picture->PixelWidth(), (12000 - 120) / 15);
-  ASSERT_EQ(picture->PixelHeight(), (9000 - 450) / 15);
-
-  // The surface's inner area starts after its 2-pixel border.
-  const int ox = 300 / 15 + 2, oy = 600 / 15 + 2;
-  const PixelBox inner{ox, oy, ox + 599, oy + 399};
-  const PixelBox box{ox + PixelOfTwips(x), oy + PixelOfTwips(y), ox + PixelOfTwips(right),
-                     oy + PixelOfTwips(bottom)};
+  const int x0 = kOx + PixelOfTwips(x), y0 = kOy + PixelOfTwips(y);
+  const int x1 = kOx + PixelOfTwips(x + static_cast<double>(CLng(ky.LargeurTexte(text))));
+  const int y1 = kOy + PixelOfTwips(y + static_cast<double>(ky.HauteurTexte()) - 2 * env.MargeY);
+  const auto picture = Compose();
+  ASSERT_EQ(std::pair(picture->PixelWidth(), picture->PixelHeight()),
+            std::pair((12000 - 120) / 15, (9000 - 450) / 15));
   int yellow = 0;
-  for (int py = inner.y0; py <= inner.y1; ++py) {
-    for (int px = inner.x0; px <= inner.x1; ++px) {
+  for (int py = kOy; py < kOy + 400; ++py) {
+    for (int px = kOx; px < kOx + 600; ++px) {
       const Long c = At(*picture, px, py);
-      if (box.Holds(px, py)) {
-        ASSERT_TRUE(YellowOnBlue(c)) << "pixel " << px << "," << py << " is " << std::hex << c;
-        yellow += c == f.env->Jaune ? 1 : 0;
-      } else {
+      if (px < x0 || px > x1 || py < y0 || py > y1) {
         ASSERT_EQ(c, kWhite) << "pixel " << px << "," << py;
+        continue;
       }
+      // Yellow over blue: any blend of the two has red = green, blue at most 0xC0.
+      const int r = c & 0xFF, g = (c >> 8) & 0xFF, b = (c >> 16) & 0xFF;
+      ASSERT_TRUE(r == g && b <= 0xC0 && (r != 0 || b != 0))
+          << "pixel " << px << "," << py << " is " << std::hex << c;
+      yellow += c == env.Jaune ? 1 : 0;
     }
   }
   EXPECT_GT(yellow, 30);
-  // The box's four corners are plain blue: the text lies inside it.
-  for (auto [px, py] : {std::pair{box.x0, box.y0}, {box.x1, box.y0}, {box.x0, box.y1},
-                        {box.x1, box.y1}}) {
-    EXPECT_EQ(At(*picture, px, py), f.env->Bleu) << "corner " << px << "," << py;
-  }
-  // Around the surface: its border, then the form's back colour.
-  EXPECT_NE(At(*picture, ox - 1, oy + 10), kWhite);
-  EXPECT_EQ(At(*picture, 5, 5), 0x00F0F0F0);
 }
 
-TEST(FormPictureTest, ToolbarShowsOnlyWhenVisible) {
-  RasterForm f;
-  const int toolbar_rows = 420 / 15;
-  EXPECT_EQ(At(*ComposeForm(*f.form, f.surface.get()), 100, 5), 0x00F0F0F0);
-  f.toolbar->SetVisible(true);
-  const auto picture = ComposeForm(*f.form, f.surface.get());
-  const Long strip = At(*picture, 100, 5);
-  EXPECT_NE(strip, 0x00F0F0F0);
-  // The strip spans the form's width and its own height, then the form shows.
-  EXPECT_EQ(At(*picture, picture->PixelWidth() - 1, 5), strip);
-  EXPECT_NE(At(*picture, 100, toolbar_rows - 1), 0x00F0F0F0);
-  EXPECT_EQ(At(*picture, 100, toolbar_rows), 0x00F0F0F0);
-}
-
-TEST(FormPictureTest, CaretShowsItsPictureStretchedWhereAndWhenVisible) {
-  RasterForm f;
-  f.caret->SetPicture(DecodePicture(CaretSurchargeImage()));  // all black
-  f.caret->SetLeft(1500);
-  f.caret->SetTop(600);
-  f.caret->SetWidth(165);
-  f.caret->SetHeight(75);
-  const int ox = 300 / 15 + 2, oy = 600 / 15 + 2;
-  auto count_black = [](const forms::Bitmap& p) {
-    int n = 0;
-    for (const auto& rgb : p.Pixels()) n += rgb == forms::Rgb{0, 0, 0} ? 1 : 0;
-    return n;
+TEST_F(FormPictureTest, ToolbarCaretAndMessageZoneShowOnlyWhenVisible) {
+  auto black = [](const forms::Bitmap& p) {
+    return std::count(p.Pixels().begin(), p.Pixels().end(), forms::Rgb{0, 0, 0});
   };
-  EXPECT_EQ(count_black(*ComposeForm(*f.form, f.surface.get())), 0);
+  auto caret = Box("Caret"), zone = Box("zoneMessage");
+  caret->SetPicture(DecodePicture(CaretSurchargeImage()));  // 11 x 5, all black
+  caret->SetLeft(1500);
+  caret->SetTop(600);
+  caret->SetWidth(165);
+  caret->SetHeight(75);
+  // The message zone as AfficheZoneMessage places it: touching the surface's lower edge.
+  zone->SetPicture(std::make_shared<forms::Bitmap>(4, 2, std::vector<forms::Rgb>(8, {192, 0, 0})));
+  zone->SetWidth(60);
+  zone->SetHeight(30);
+  zone->SetTop(surface->Top() + surface->Height());
+  zone->SetLeft(surface->Left() + (surface->Width() - zone->Width()) / 2);
+  const int zx = PixelOfTwips(zone->Left()), zy = PixelOfTwips(zone->Top());
+  auto picture = Compose();
+  EXPECT_EQ(At(*picture, 100, 5), kFace);
+  EXPECT_EQ(black(*picture), 0);
+  EXPECT_EQ(At(*picture, zx, zy), kFace);
 
-  f.caret->SetVisible(true);
-  auto picture = ComposeForm(*f.form, f.surface.get());
-  EXPECT_EQ(count_black(*picture), 11 * 5);
-  EXPECT_EQ(At(*picture, ox + 100, oy + 40), 0);
-  EXPECT_EQ(At(*picture, ox + 110, oy + 44), 0);
-  EXPECT_EQ(At(*picture, ox + 99, oy + 40), kWhite);
+  toolbar.SetVisible(true);
+  caret->SetVisible(true);
+  zone->SetVisible(true);
+  picture = Compose();
+  // The toolbar spans the form's width and its own 420 twips, then the form shows.
+  EXPECT_NE(At(*picture, 100, 5), kFace);
+  EXPECT_EQ(At(*picture, picture->PixelWidth() - 1, 5), At(*picture, 100, 5));
+  EXPECT_NE(At(*picture, 100, 420 / 15 - 1), kFace);
+  EXPECT_EQ(At(*picture, 100, 420 / 15), kFace);
+  EXPECT_EQ(black(*picture), 11 * 5);
+  EXPECT_EQ(At(*picture, kOx + 100, kOy + 40), 0);
+  EXPECT_EQ(At(*picture, kOx + 110, kOy + 44), 0);
+  EXPECT_EQ(At(*picture, kOx + 99, kOy + 40), kWhite);
+  EXPECT_EQ(At(*picture, zx, zy), 0x000000C0);
+  EXPECT_EQ(At(*picture, zx + 3, zy + 1), 0x000000C0);
+  EXPECT_EQ(At(*picture, zx + 4, zy), kFace);
 
-  // As wide as a letter: the picture follows the control's width.
-  f.caret->SetWidth(135);
-  picture = ComposeForm(*f.form, f.surface.get());
-  EXPECT_EQ(count_black(*picture), 9 * 5);
-
+  // The caret's picture is stretched to the control's width, as wide as a letter.
+  caret->SetWidth(135);
+  EXPECT_EQ(black(*Compose()), 9 * 5);
   // The insert picture keeps its drawing: its tip in the middle of the top row.
-  f.caret->SetPicture(DecodePicture(CaretInsertionImage()));
-  f.caret->SetWidth(165);
-  picture = ComposeForm(*f.form, f.surface.get());
-  EXPECT_EQ(At(*picture, ox + 105, oy + 40), 0);
-  EXPECT_EQ(At(*picture, ox + 105, oy + 41), f.env->Jaune);
-  EXPECT_EQ(At(*picture, ox + 100, oy + 40), kWhite);
+  caret->SetPicture(DecodePicture(CaretInsertionImage()));
+  caret->SetWidth(165);
+  picture = Compose();
+  EXPECT_EQ(At(*picture, kOx + 105, kOy + 40), 0);
+  EXPECT_EQ(At(*picture, kOx + 105, kOy + 41), env.Jaune);
+  EXPECT_EQ(At(*picture, kOx + 104, kOy + 40), kWhite);
 }
 
-TEST(FormPictureTest, MessageZoneShowsItsPictureUnderTheSurface) {
-  RasterForm f;
-  auto message = std::make_shared<forms::Bitmap>(
-      4, 2, std::vector<forms::Rgb>(8, forms::Rgb{192, 0, 0}));
-  // Placed as AfficheZoneMessage places it: touching the surface's lower edge.
-  f.zone->SetPicture(message);
-  f.zone->SetWidth(60);
-  f.zone->SetHeight(30);
-  f.zone->SetTop(f.surface->Top() + f.surface->Height());
-  f.zone->SetLeft(f.surface->Left() + (f.surface->Width() - f.zone->Width()) / 2);
-  f.zone->SetVisible(true);
-  const auto picture = ComposeForm(*f.form, f.surface.get());
-  const int x = PixelOfTwips(f.zone->Left()), y = PixelOfTwips(f.zone->Top());
-  EXPECT_EQ(At(*picture, x, y), 0x000000C0);
-  EXPECT_EQ(At(*picture, x + 3, y + 1), 0x000000C0);
-  EXPECT_EQ(At(*picture, x + 4, y), 0x00F0F0F0);
-
-  f.zone->SetVisible(false);
-  EXPECT_EQ(At(*ComposeForm(*f.form, f.surface.get()), x, y), 0x00F0F0F0);
-}
-
-TEST(FormPictureTest, PngFileShowsWhatTheComposedPictureShows) {
-  RasterForm f;
-  KySaisie ky;
-  f.toolbar->SetVisible(true);
-  ky.AfficheT(195, 105, u"S", u"Total 1 234,50");
-  ky.AfficheT(585, 105, u"Rouge", u"Erreur de saisie");
-  const std::string path = (std::filesystem::temp_directory_path() /
-                            ("ferlan_form_" + std::to_string(::getpid()) + ".png"))
-                               .string();
-  // Without a surface given, the form's own "ZoneAff" is the surface.
-  WriteFormPng(*f.form, path);
+TEST_F(FormPictureTest, PngFileShowsWhatTheComposedPictureShows) {
+  toolbar.SetVisible(true);
+  KySaisie{}.AfficheT(195, 105, u"Rouge", u"Erreur de saisie");
+  const std::string path = ::testing::TempDir() + "form_" + std::to_string(::getpid()) + ".png";
+  WriteFormPng(*form, path);  // without a surface given, the form's "ZoneAff" is the surface
   const auto written = LoadPictureFile(path);
-  const auto composed = ComposeForm(*f.form, f.surface.get());
-  EXPECT_EQ(written->PixelWidth(), composed->PixelWidth());
-  EXPECT_EQ(written->Pixels(), composed->Pixels());
+  EXPECT_EQ(written->PixelWidth(), Compose()->PixelWidth());
+  EXPECT_EQ(written->Pixels(), Compose()->Pixels());
   std::filesystem::remove(path);
+}
+
+TEST_F(FormPictureTest, DessinsNestedSavesComeBackPixelForPixelLastFirst) {
+  kit::Dessin dessin({std::shared_ptr<void>(), &env});  // shares the session's environment
+  std::vector<std::vector<forms::Rgb>> shown;
+  for (int level = 0; level < 3; ++level) {
+    const Single top = 195 + 390 * level;
+    dessin.Pave(*surface, 105, top, 3000 + 300 * level, top + 300, level ? 0x00C00000 : 0x00800000);
+    dessin.Texte(*surface, 150, top + 30, u"Niveau " + String(level + 1, u'I'), 0x0000FFFF);
+    dessin.Rectangle(*surface, 0x000000C0, top - 30, 60, 4000, 400);
+    shown.push_back(Shown());
+    dessin.MemImage(*surface);
+  }
+  // Another screen, on a surface that grew and got its size back.
+  surface->SetWidth(12060);
+  dessin.Efface(*surface);
+  dessin.Texte(*surface, 0, 0, u"Autre \u00e9cran", 0);
+  surface->SetWidth(9060);
+  ASSERT_NE(Shown(), shown[2]);
+  for (int level = 2; level >= 0; --level) {
+    dessin.ResImage(*surface);
+    EXPECT_EQ(Shown(), shown[static_cast<std::size_t>(level)]) << "level " << level;
+  }
+  dessin.ResImage(*surface);  // nothing left to restore: the surface stays as it is
+  EXPECT_EQ(Shown(), shown[0]);
 }
 
 }  // namespace
