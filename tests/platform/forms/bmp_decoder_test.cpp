@@ -1,8 +1,12 @@
+// BMP decoding: a hand-written 24-bit image, the same pixels in 32 bits,
+// rows either way up, and what the decoder refuses.
 #include "forms/bmp_decoder.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "support/session_test.hpp"
@@ -10,131 +14,92 @@
 namespace ferlan::forms {
 namespace {
 
-using ferlan::testing::ExpectPlatformError;
-
-constexpr Rgb kRed{255, 0, 0};
-constexpr Rgb kGreen{0, 255, 0};
-constexpr Rgb kBlue{0, 0, 255};
-constexpr Rgb kWhite{255, 255, 255};
-constexpr Rgb kBlack{0, 0, 0};
-constexpr Rgb kYellow{255, 255, 0};
+using Bytes = std::vector<std::uint8_t>;
 
 // 3 x 2 pixels, 24 bits, rows bottom-up and padded to 12 bytes, written out
 // by hand: top row red, green, blue; bottom row white, black, yellow.
-const std::vector<std::uint8_t> kHandmade{
-    'B', 'M', 78, 0, 0, 0, 0, 0, 0, 0, 54, 0, 0, 0,           // file header
-    40, 0, 0, 0, 3, 0, 0, 0, 2, 0, 0, 0, 1, 0, 24, 0,         // size, 3 x 2, 24 bits
-    0, 0, 0, 0, 24, 0, 0, 0, 0x13, 0x0B, 0, 0, 0x13, 0x0B, 0, 0,  // no compression
-    0, 0, 0, 0, 0, 0, 0, 0,                                   // no palette
+// clang-format off
+const Bytes kHandmade{
+    'B', 'M', 78, 0, 0, 0, 0, 0, 0, 0, 54, 0, 0, 0,                 // file header
+    40, 0, 0, 0, 3, 0, 0, 0, 2, 0, 0, 0, 1, 0, 24, 0,               // size, 3 x 2, 24 bits
+    0, 0, 0, 0, 24, 0, 0, 0, 0x13, 0x0B, 0, 0, 0x13, 0x0B, 0, 0,    // no compression
+    0, 0, 0, 0, 0, 0, 0, 0,                                         // no palette
     0xFF, 0xFF, 0xFF, 0x00, 0x00, 0x00, 0x00, 0xFF, 0xFF, 0, 0, 0,  // bottom row
-    0x00, 0x00, 0xFF, 0x00, 0xFF, 0x00, 0xFF, 0x00, 0x00, 0, 0, 0,  // top row
-};
+    0x00, 0x00, 0xFF, 0x00, 0xFF, 0x00, 0xFF, 0x00, 0x00, 0, 0, 0}; // top row
+// clang-format on
+const std::vector<Rgb> kTopFirst = {{255, 0, 0},     {0, 255, 0}, {0, 0, 255},
+                                    {255, 255, 255}, {0, 0, 0},   {255, 255, 0}};
 
-void Put32(std::vector<std::uint8_t>& b, std::size_t at, std::uint32_t v) {
-  for (int i = 0; i < 4; ++i) b[at + i] = static_cast<std::uint8_t>(v >> (8 * i));
+// Writes `v` little-endian at `at`, growing `b` when needed.
+void Put32(Bytes& b, std::size_t at, std::uint32_t v) {
+  if (b.size() < at + 4) b.resize(at + 4);
+  for (std::size_t i = 0; i < 4; ++i) b[at + i] = static_cast<std::uint8_t>(v >> (8 * i));
 }
 
-// The handmade image's pixels again as 32 bits a pixel (B, G, R, x), with
-// `height` -2 for rows top first, and with channel masks when `bit_fields`.
-std::vector<std::uint8_t> ThirtyTwoBit(std::int32_t height, bool bit_fields) {
-  const std::size_t masks = bit_fields ? 12 : 0;
-  const std::size_t offset = 54 + masks;
-  std::vector<std::uint8_t> b(offset + 24, 0);
-  b[0] = 'B';
-  b[1] = 'M';
-  Put32(b, 2, static_cast<std::uint32_t>(b.size()));
-  Put32(b, 10, static_cast<std::uint32_t>(offset));
-  Put32(b, 14, 40);
-  Put32(b, 18, 3);
-  Put32(b, 22, static_cast<std::uint32_t>(height));
-  b[26] = 1;
-  b[28] = 32;
-  Put32(b, 30, bit_fields ? 3 : 0);
-  if (bit_fields) {
-    // R, G, B in the high three bytes: 0xRRGGBBxx.
-    Put32(b, 54, 0xFF000000);
-    Put32(b, 58, 0x00FF0000);
-    Put32(b, 62, 0x0000FF00);
-  }
-  const Rgb top[] = {kRed, kGreen, kBlue};
-  const Rgb bottom[] = {kWhite, kBlack, kYellow};
-  for (int row = 0; row < 2; ++row) {
-    const Rgb* pixels = (height < 0) == (row == 0) ? top : bottom;
-    for (int x = 0; x < 3; ++x) {
-      const Rgb p = pixels[x];
-      const std::uint32_t word = bit_fields
-                                     ? (std::uint32_t{p.r} << 24 | std::uint32_t{p.g} << 16 |
-                                        std::uint32_t{p.b} << 8)
-                                     : (std::uint32_t{p.r} << 16 | std::uint32_t{p.g} << 8 | p.b);
-      Put32(b, offset + static_cast<std::size_t>(row * 12 + x * 4), word);
-    }
-  }
+Bytes With(Bytes b, std::size_t at, std::uint32_t v) {
+  Put32(b, at, v);
   return b;
 }
 
-void ExpectHandmadePixels(const Bitmap& bmp) {
-  ASSERT_EQ(bmp.PixelWidth(), 3);
-  ASSERT_EQ(bmp.PixelHeight(), 2);
-  EXPECT_EQ(bmp.Pixel(0, 0), kRed);
-  EXPECT_EQ(bmp.Pixel(1, 0), kGreen);
-  EXPECT_EQ(bmp.Pixel(2, 0), kBlue);
-  EXPECT_EQ(bmp.Pixel(0, 1), kWhite);
-  EXPECT_EQ(bmp.Pixel(1, 1), kBlack);
-  EXPECT_EQ(bmp.Pixel(2, 1), kYellow);
+// The handmade pixels as 32 bits a pixel (B, G, R, x), or with channel
+// masks putting R, G, B in the high three bytes; rows top first when
+// `height` is negative.
+Bytes ThirtyTwoBit(std::int32_t height, bool masks) {
+  Bytes b(kHandmade.begin(), kHandmade.begin() + 54);
+  Put32(b, 22, static_cast<std::uint32_t>(height));
+  b[28] = 32;
+  if (masks) {
+    Put32(b, 30, 3);
+    for (std::uint32_t mask : {0xFF000000u, 0x00FF0000u, 0x0000FF00u}) Put32(b, b.size(), mask);
+  }
+  Put32(b, 10, static_cast<std::uint32_t>(b.size()));
+  for (std::size_t i = 0; i < 6; ++i) {
+    const Rgb p = kTopFirst[height < 0 ? i : (i + 3) % 6];
+    const std::uint32_t rgb = std::uint32_t{p.r} << 16 | std::uint32_t{p.g} << 8 | p.b;
+    Put32(b, b.size(), masks ? rgb << 8 : rgb);
+  }
+  return With(b, 2, static_cast<std::uint32_t>(b.size()));
 }
 
-TEST(BmpDecoderTest, ReadsAHandmadeBottomUpImage) {
-  ASSERT_EQ(kHandmade.size(), 78u);
+std::vector<Rgb> TopFirst(const Bitmap& bmp) {
+  std::vector<Rgb> pixels;
+  const int width = bmp.PixelWidth();
+  for (int i = 0; i < width * bmp.PixelHeight(); ++i)
+    pixels.push_back(bmp.Pixel(i % width, i / width));
+  return pixels;
+}
+
+TEST(BmpDecoderTest, ReadsTwentyFourAndThirtyTwoBitImagesEitherWayUp) {
   auto bmp = DecodeBmp(kHandmade);
-  ExpectHandmadePixels(*bmp);
+  ASSERT_EQ(bmp->PixelWidth(), 3);
+  EXPECT_EQ(TopFirst(*bmp), kTopFirst);
   EXPECT_FLOAT_EQ(bmp->Width(), 45);  // 15 twips a pixel
   EXPECT_FLOAT_EQ(bmp->Height(), 30);
-}
-
-TEST(BmpDecoderTest, ReadsTopDownRows) {
-  std::vector<std::uint8_t> flipped = kHandmade;
-  Put32(flipped, 22, static_cast<std::uint32_t>(-2));
   // The same bytes read top first: the rows swap.
-  auto bmp = DecodeBmp(flipped);
-  EXPECT_EQ(bmp->Pixel(0, 0), kWhite);
-  EXPECT_EQ(bmp->Pixel(2, 1), kBlue);
-}
-
-TEST(BmpDecoderTest, ReadsThirtyTwoBitImages) {
-  ExpectHandmadePixels(*DecodeBmp(ThirtyTwoBit(2, false)));
-  ExpectHandmadePixels(*DecodeBmp(ThirtyTwoBit(-2, false)));
-  ExpectHandmadePixels(*DecodeBmp(ThirtyTwoBit(2, true)));
+  const std::vector<Rgb> swapped = {kTopFirst[3], kTopFirst[4], kTopFirst[5],
+                                    kTopFirst[0], kTopFirst[1], kTopFirst[2]};
+  EXPECT_EQ(TopFirst(*DecodeBmp(With(kHandmade, 22, static_cast<std::uint32_t>(-2)))), swapped);
+  const std::pair<int, bool> layouts[] = {{2, false}, {-2, false}, {2, true}};  // height, masks
+  for (const auto& [height, masks] : layouts) {
+    EXPECT_EQ(TopFirst(*DecodeBmp(ThirtyTwoBit(height, masks))), kTopFirst) << height << masks;
+  }
 }
 
 TEST(BmpDecoderTest, RefusesWhatItCannotRead) {
-  struct Case {
-    const char* what;
-    std::vector<std::uint8_t> bytes;
-    const char* detail;
-  };
-  auto with = [](std::size_t at, std::uint32_t v) {
-    std::vector<std::uint8_t> b = kHandmade;
-    Put32(b, at, v);
-    return b;
-  };
-  std::vector<std::uint8_t> eight_bit = kHandmade;
-  eight_bit[28] = 8;
-  const Case cases[] = {
-      {"cut", std::vector<std::uint8_t>(kHandmade.begin(), kHandmade.end() - 1), "cut short"},
-      {"header only", std::vector<std::uint8_t>(kHandmade.begin(), kHandmade.begin() + 20),
-       "cut short"},
-      {"signature", std::vector<std::uint8_t>{'G', 'I', 'F', '8'}, "no BM signature"},
-      {"palette", eight_bit, "8 bits a pixel"},
-      {"run-length", with(30, 1), "compression 1"},
-      {"no width", with(18, 0), "size 0 x 2"},
-      {"huge", with(18, 100000), "size 100000 x 2"},
-      {"old header", with(14, 12), "header of 12 bytes"},
-      {"pixels past the end", with(10, 60), "cut short"},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.what);
-    ExpectPlatformError([&] { DecodeBmp(c.bytes); }, 5,
-                        std::string("Invalid procedure call or argument: BMP image: ") + c.detail);
+  const std::pair<Bytes, const char*> cases[] = {
+      {Bytes(kHandmade.begin(), kHandmade.end() - 1), "cut short"},
+      {Bytes(kHandmade.begin(), kHandmade.begin() + 20), "cut short"},
+      {With(kHandmade, 10, 60), "cut short"},  // pixels past the end
+      {Bytes{'G', 'I', 'F', '8'}, "no BM signature"},
+      {With(kHandmade, 28, 8), "8 bits a pixel"},
+      {With(kHandmade, 30, 1), "compression 1"},
+      {With(kHandmade, 18, 0), "size 0 x 2"},
+      {With(kHandmade, 18, 100000), "size 100000 x 2"},
+      {With(kHandmade, 14, 12), "header of 12 bytes"}};
+  for (const auto& [bytes, detail] : cases) {
+    ferlan::testing::ExpectPlatformError(
+        [&] { DecodeBmp(bytes); }, 5,
+        std::string("Invalid procedure call or argument: BMP image: ") + detail);
   }
 }
 

@@ -15,11 +15,7 @@
 namespace ferlan::kit {
 namespace {
 
-String Units(std::initializer_list<int> units) {
-  String s;
-  for (int u : units) s += static_cast<char16_t>(u);
-  return s;
-}
+using namespace std::string_literals;  // u"\0..."s keeps its zeros
 
 TEST(ConvBinaryTest, EveryIntegerAndAwkwardFloatComesBackBitForBit) {
   Conv conv;
@@ -47,15 +43,14 @@ TEST(ConvBinaryTest, EveryIntegerAndAwkwardFloatComesBackBitForBit) {
 
 TEST(ConvBinaryTest, FormsAreLittleEndianBytesAndShortTextsPadWithZero) {
   Conv conv;
-  EXPECT_EQ(conv.BinEntier(-2), Units({0xFE, 0xFF}));
-  EXPECT_EQ(conv.BinEntier(0x1234), Units({0x34, 0x12}));
-  EXPECT_EQ(conv.BinSimple(1.0f), Units({0, 0, 0x80, 0x3F}));
-  EXPECT_EQ(conv.BinReel(-2.5), Units({0, 0, 0, 0, 0, 0, 0x04, 0xC0}));
+  EXPECT_EQ(conv.BinEntier(0x12FE), u"\xFE\x12"s);
+  EXPECT_EQ(conv.BinSimple(1.0f), u"\0\0\x80\x3F"s);
+  EXPECT_EQ(conv.BinReel(-2.5), u"\0\0\0\0\0\0\x04\xC0"s);
   EXPECT_EQ(conv.EntierBin(u""), 0);
-  EXPECT_EQ(conv.EntierBin(Units({5})), 5);
-  EXPECT_EQ(conv.EntierBin(Units({0x105, 0x201})), 0x0105);  // a unit gives its low byte
-  EXPECT_EQ(conv.EntierBin(Units({1, 0, 9, 9})), 1);         // beyond 2 characters: unread
-  EXPECT_EQ(conv.SimpleBin(Units({0, 0, 0x80})), std::bit_cast<Single>(0x00800000u));
+  EXPECT_EQ(conv.EntierBin(u"\x05"), 5);
+  EXPECT_EQ(conv.EntierBin(u"\x105\x201"), 0x0105);  // a unit gives its low byte
+  EXPECT_EQ(conv.EntierBin(u"\x01\0\x09"s), 1);      // beyond 2 characters: unread
+  EXPECT_EQ(conv.SimpleBin(u"\0\0\x80"s), std::bit_cast<Single>(0x00800000u));
   EXPECT_EQ(conv.ReelBin(u"\u20AC"), std::bit_cast<Double>(0xACULL));
 }
 
