@@ -96,10 +96,10 @@ TEST(BmpDecoderTest, RefusesWhatItCannotRead) {
       {With(kHandmade, 18, 0), "size 0 x 2"},
       {With(kHandmade, 18, 100000), "size 100000 x 2"},
       {With(kHandmade, 14, 12), "header of 12 bytes"}};
-  for (const auto& [bytes, detail] : cases) {
+  for (const auto& c : cases) {
     ferlan::testing::ExpectPlatformError(
-        [&] { DecodeBmp(bytes); }, 5,
-        std::string("Invalid procedure call or argument: BMP image: ") + detail);
+        [&] { DecodeBmp(c.first); }, 5,
+        std::string("Invalid procedure call or argument: BMP image: ") + c.second);
   }
 }
 

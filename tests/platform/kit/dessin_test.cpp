@@ -74,8 +74,6 @@ TEST_F(DessinTest, HauteurAndLargeurSetTheInnerSizeQueSiInfOnlyToGrow) {
 }
 
 TEST_F(DessinTest, ResImageBringsBackTheLastSaveFirstOnEachSurface) {
-  dessin_.ResImage(zone_);  // nothing saved: nothing happens
-  EXPECT_EQ(Ops(zone_), "");
   dessin_.Pave(zone_, 0, 0, 1, 1, 1);
   dessin_.MemImage(zone_);
   dessin_.Pave(zone_, 0, 0, 2, 2, 2);
