@@ -1,74 +1,45 @@
-// Colour codes against a palette of distinct small numbers, so that every
-// code is seen to read its own member of Env.
+// Colour codes: the kit's palette is all distinct, so each code is seen to
+// read its own member of Env, at the call.
 #include <gtest/gtest.h>
 
-#include "ferlan/kysaisie.hpp"
-#include "support/session_test.hpp"
+#include <tuple>
+#include <vector>
+
+#include "display/display_fixture.hpp"
 
 namespace ferlan::testing {
 namespace {
 
-class ColourCodesTest : public SessionTest {
- protected:
-  void SetUp() override {
-    Env().Noir = 1;
-    Env().CouleurB = 2;
-    Env().Jaune = 3;
-    Env().Blanc = 4;
-    Env().Bleu = 5;
-    Env().GrisTresClair = 6;
-    Env().GrisClair = 7;
-    Env().Gris = 8;
-    Env().GrisFonce = 9;
-    Env().Rouge = 10;
-    Env().Marron = 11;
-  }
-  KySaisie ky;
-};
+using ColourCodesTest = DisplayTest;
 
-TEST_F(ColourCodesTest, EachCodeGivesItsTextAndBackgroundColour) {
-  struct Case {
-    const char16_t* code;
-    Long text;
-    Long background;
-  };
-  const Case cases[] = {
-      {u"N", 1, -1},          {u"B", 2, -1},     {u"I", 3, 5},          {u"S", 3, 2},
-      {u"R", 4, 5},           {u"Blanc", 4, -1}, {u"GrisTresClair", 6, -1},
-      {u"GrisClair", 7, -1},  {u"Gris", 8, -1},  {u"GrisFoncé", 9, -1}, {u"Bleu", 5, -1},
-      {u"Rouge", 10, -1},     {u"Marron", 11, -1}, {u"Jaune", 3, -1},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(ToUtf8(c.code));
-    EXPECT_EQ(ky.Couleur(c.code), c.text);
-    EXPECT_EQ(ky.CouleurFond(c.code), c.background);
-  }
-  EXPECT_TRUE(session.Records().reports.empty());
-}
-
-TEST_F(ColourCodesTest, AnUnknownCodeIsReportedByCouleurOnly) {
-  // Exact comparison: no accent, lower case, a trailing blank and the empty
-  // code are all unknown.
-  const char16_t* unknown[] = {u"GrisFonce", u"n", u"B ", u"", u"bleu"};
-  for (const char16_t* code : unknown) {
+TEST_F(ColourCodesTest, EachCodeGivesItsColoursAndAnUnknownOneIsReportedByCouleurOnly) {
+  const kit::EnvState& e = Env();
+  // clang-format off
+  for (auto [code, text, back] : std::vector<std::tuple<String, Long, Long>>{
+           {u"N", e.Noir, -1}, {u"B", e.CouleurB, -1}, {u"I", e.Jaune, e.Bleu},
+           {u"S", e.Jaune, e.CouleurB}, {u"R", e.Blanc, e.Bleu}, {u"Blanc", e.Blanc, -1},
+           {u"GrisTresClair", e.GrisTresClair, -1}, {u"GrisClair", e.GrisClair, -1},
+           {u"Gris", e.Gris, -1}, {u"GrisFoncé", e.GrisFonce, -1}, {u"Bleu", e.Bleu, -1},
+           {u"Rouge", e.Rouge, -1}, {u"Marron", e.Marron, -1}, {u"Jaune", e.Jaune, -1}}) {
+    // clang-format on
     SCOPED_TRACE(ToUtf8(code));
-    session.Records().Clear();
-    EXPECT_EQ(ky.CouleurFond(code), -1);
-    EXPECT_TRUE(session.Records().reports.empty());
-
-    EXPECT_EQ(ky.Couleur(code), 0);
-    ASSERT_EQ(session.Records().reports.size(), 1u);
-    EXPECT_EQ(session.Records().reports[0].source, u"Couleur");
-    EXPECT_EQ(session.Records().reports[0].text, String(code) + u" Code Couleur Inconnu");
+    EXPECT_EQ(ky.Couleur(code), text);
+    EXPECT_EQ(ky.CouleurFond(code), back);
   }
-}
-
-TEST_F(ColourCodesTest, ThePaletteIsReadAtEachCall) {
-  EXPECT_EQ(ky.Couleur(u"Rouge"), 10);
-  Env().Rouge = 0x0000FF;
-  EXPECT_EQ(ky.Couleur(u"Rouge"), 0x0000FF);
   Env().Bleu = 77;
   EXPECT_EQ(ky.CouleurFond(u"R"), 77);
+
+  // Compared exactly: no accent, lower case, a trailing blank, empty.
+  const auto& reports = session.Records().reports;
+  for (const char16_t* code : {u"GrisFonce", u"n", u"B ", u""}) {
+    SCOPED_TRACE(ToUtf8(code));
+    EXPECT_EQ(ky.CouleurFond(code), -1);
+    EXPECT_EQ(ky.Couleur(code), 0);
+    ASSERT_FALSE(reports.empty());
+    EXPECT_EQ(reports.back().source, u"Couleur");
+    EXPECT_EQ(reports.back().text, String(code) + u" Code Couleur Inconnu");
+  }
+  EXPECT_EQ(reports.size(), 4u);  // one a Couleur of an unknown code, none else
 }
 
 }  // namespace

@@ -1,139 +1,112 @@
-// Aff and the calls that place it, checked by the Dessin calls they make,
-// one a line: "EffaceRect X1 Y1 X2 Y2 Coul", "Pave ...", "Texte X Y "text" Coul".
+// Aff and the calls built on it, by the Dessin calls they make. Of the 27
+// lines the flow (AffLig, AffL, AffSL) writes on 1 to 26, then starts a page.
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 
-#include "display/measured_canvas.hpp"
-#include "ferlan/kysaisie.hpp"
-#include "support/session_test.hpp"
+#include "display/display_fixture.hpp"
 
 namespace ferlan::testing {
 namespace {
 
-class TextOutputTest : public SessionTest {
- protected:
-  void SetUp() override {
-    // Colours that read well in a log.
-    Env().Noir = 0;
-    Env().CouleurB = 2;
-    Env().Jaune = 3;
-    Env().Bleu = 5;
-  }
-  void SetInnerSize(Single width, Single height) {
-    Zone().SetWidth(width + Zone().Border());
-    Zone().SetHeight(height + Zone().Border());
-  }
-  KySaisie ky;
-};
+using TextOutputTest = DisplayTest;
 
 TEST_F(TextOutputTest, AffClearsThenPaintsTheBoxOfItsTextOnly) {
-  // A surface where "Mille" measures 1000.4: the fixed metrics give only
-  // multiples of 105 at size 10. Heights stay 195.
-  auto measures = std::make_shared<Measures>();
-  measures->widths[u"Mille"] = 1000.4f;
-  Env().surface = MeasuredSurface(measures, 11820, 8490);
-
+  UseMeasuredSurface().widths[u"Mille"] = 1000.4f;  // heights stay 195
+  ASSERT_EQ(Env().MargeY, 1);
   ky.AffPos(1, 1);
-  ky.Aff(u"I", u"Mille");
-  // W is 1000; the clearing stops MargeY short of the text height, the
-  // background 2 x MargeY short.
+  ky.Aff(u"I", u"Mille");  // W 1000; cleared MargeY short of the height, Pave twice
   EXPECT_EQ(TakeLog(),
             "EffaceRect 105 312 1105 506 -1\n"
-            "Pave 105 312 1105 505 5\n"
-            "Texte 105 312 \"Mille\" 3\n");
-  // Dessin.Texte leaves the position at the exact end of the text.
-  EXPECT_FLOAT_EQ(Env().CourantX, 1105.4f);
+            "Pave 105 312 1105 505 12582912\n"
+            "Texte 105 312 \"Mille\" 65535\n");
+  EXPECT_FLOAT_EQ(Env().CourantX, 1105.4f);  // the exact end of the text
   EXPECT_EQ(Env().CourantY, 312.0f);
 }
 
-TEST_F(TextOutputTest, SuccessiveRunsFollowOneAnother) {
+TEST_F(TextOutputTest, RunsFollowOneAnotherInTheirColours) {
   ky.AfficheT(500, 52.5f, u"B", u"ab");
   ky.Aff(u"S", u"c");
-  // An empty text draws nothing visible and leaves the position.
-  ky.Aff(u"N", u"");
-  EXPECT_EQ(TakeLog(),
-            "EffaceRect 52.5 500 262.5 694 -1\n"
-            "Pave 52.5 500 262.5 693 -1\n"
-            "Texte 52.5 500 \"ab\" 2\n"
-            "EffaceRect 262.5 500 367.5 694 -1\n"
-            "Pave 262.5 500 367.5 693 2\n"
-            "Texte 262.5 500 \"c\" 3\n"
-            "EffaceRect 367.5 500 367.5 694 -1\n"
-            "Pave 367.5 500 367.5 693 -1\n"
-            "Texte 367.5 500 \"\" 0\n");
+  ky.Aff(u"Vert", u"");  // unknown: colour 0; empty: the position stays
+  EXPECT_EQ(TakeLog(), Written(52.5, 500, 262.5, "ab", -1, Env().CouleurB) +
+                           Written(262.5, 500, 367.5, "c", Env().CouleurB, Env().Jaune) +
+                           Written(367.5, 500, 367.5, ""));
   EXPECT_EQ(Env().CourantX, 367.5f);
-  EXPECT_EQ(Env().CourantY, 500.0f);
+  EXPECT_EQ(session.Records().reports.size(), 1u);
 }
 
-TEST_F(TextOutputTest, AfficheRoundsTheLineAndTheWidthToEven) {
-  // Size 5: pitch 156.8, column 52.5, text height 97.5 taken as 98.
-  Zone().Font().SetSize(5);
-  ky.Affiche(3, 3, u"N", u"x");
-  // Line 3 at 470.4 goes to 470; column 3 stays 157.5; the width 52.5 of
-  // "x" counts as 52.
+TEST_F(TextOutputTest, TheSurfaceGrowsToHoldTheTextAndOnlyNearTheScreenWidthCutsIt) {
+  ky.AfficheT(312, 11000, u"N", u"0123456789");  // past 11820: 12051 + 2 columns each side
   EXPECT_EQ(TakeLog(),
-            "EffaceRect 157.5 470 209.5 567 -1\n"
-            "Pave 157.5 470 209.5 566 -1\n"
-            "Texte 157.5 470 \"x\" 0\n");
-  EXPECT_EQ(Env().CourantY, 470.0f);
-
-  ky.AfficheColT(2, 10.25f, u"N", u"");
-  EXPECT_EQ(TakeLog(),
-            "EffaceRect 10.25 314 10.25 411 -1\n"
-            "Pave 10.25 314 10.25 410 -1\n"
-            "Texte 10.25 314 \"\" 0\n");
-}
-
-TEST_F(TextOutputTest, AnUnknownCodeStillClearsAndDrawsInColourZero) {
-  ky.AffPos(1, 1);
-  ky.Aff(u"Vert", u"ab");
-  EXPECT_EQ(TakeLog(),
-            "EffaceRect 105 312 315 506 -1\n"
-            "Pave 105 312 315 505 -1\n"
-            "Texte 105 312 \"ab\" 0\n");
-  ASSERT_EQ(session.Records().reports.size(), 1u);
-  EXPECT_EQ(session.Records().reports[0].text, u"Vert Code Couleur Inconnu");
-}
-
-TEST_F(TextOutputTest, AffWidensTheSurfaceBetweenClearingAndPainting) {
-  SetInnerSize(11820, 8490);  // 27 lines
-  ky.AfficheT(312, 11000, u"N", u"0123456789");
-  // 11000 + 1050 + MargeX passes 11820: the surface is sized to 27 lines and
-  // 12051 plus two columns each side, and centred, the form growing to hold
-  // it.
-  EXPECT_EQ(TakeLog(),
-            "EffaceRect 11000 312 12050 506 -1\n"
-            "Hauteur 8424 False\n"
-            "Largeur 12471 False\n"
-            "Recadre\n"
-            "Pave 11000 312 12050 505 -1\n"
-            "Texte 11000 312 \"0123456789\" 0\n");
-  EXPECT_EQ(Zone().ScaleWidth(), 12471.0f);
+            "EffaceRect 11000 312 12050 506 -1\nHauteur 8424 False\nLargeur 12471 False\n"
+            "Recadre\nPave 11000 312 12050 505 -1\nTexte 11000 312 \"0123456789\" 0\n");
   EXPECT_EQ(Form().ScaleWidth(), Zone().Width());
-  EXPECT_EQ(Zone().Left(), 0.0f);
-
-  // Exactly at the edge there is no widening.
-  ky.AfficheT(312, 12471 - 1050 - 1, u"N", u"0123456789");
+  ky.AfficheT(312, 12471 - 1050 - 1, u"N", u"0123456789");  // at the edge: no widening
+  EXPECT_EQ(TakeLog(), Written(11420, 312, 12470, "0123456789"));
+  const std::string text(120, 'x');  // 12600 wide: 1 + 12600 + 2 columns each side
+  ky.AfficheCentre(2, u"N", FromUtf8(text), false);
   EXPECT_EQ(TakeLog(),
-            "EffaceRect 11420 312 12470 506 -1\n"
-            "Pave 11420 312 12470 505 -1\n"
-            "Texte 11420 312 \"0123456789\" 0\n");
+            "Hauteur 8424 False\nLargeur 13021 False\nRecadre\n" + Written(210, 624, 12810, text));
+  Env().MargeX = -1000;  // a text wider than a surface past 0.9 x 28800: cut
+  SetInnerSize(26000, 8490);
+  ky.AfficheCentre(3, u"N", FromUtf8(std::string(250, 'y')), false);
+  EXPECT_EQ(TakeLog(), Written(32, 936, 25967, std::string(247, 'y')));
 }
 
-TEST_F(TextOutputTest, AnOverflowWhileWideningKeepsTheClearing) {
-  // 40,000 lines: NbLigne, asked for the widening, overflows an Integer.
-  SetInnerSize(11820, 40000 * 312.0f);
+TEST_F(TextOutputTest, AnOverflowKeepsWhatWasDoneBeforeIt) {
+  SetInnerSize(11820, 40000 * 312.0f);  // NbLigne overflows an Integer
   ExpectPlatformError([&] { ky.AfficheT(312, 11000, u"N", u"0123456789"); }, 6);
   EXPECT_EQ(TakeLog(), "EffaceRect 11000 312 12050 506 -1\n");
   EXPECT_EQ(Env().CourantX, 11000.0f);
-  EXPECT_EQ(Env().CourantY, 312.0f);
-
-  // A line beyond a Long, for AfficheColT, fails before anything moves.
-  ExpectPlatformError([&] { ky.AfficheColT(2'000'000'000, 0, u"N", u"x"); }, 6);
+  ky.AffPos(3, 1);
+  Long l = -5;
+  ExpectPlatformError([&] { ky.AffLig(u"N", u"abc", &l); }, 6);  // at the page test
+  EXPECT_EQ(l, 3);                                               // PosAff had written it
+  ExpectPlatformError([&] { ky.AfficheCentre(40000, u"N", u"abc"); }, 6);
   EXPECT_EQ(TakeLog(), "");
-  EXPECT_EQ(Env().CourantY, 312.0f);
+}
+
+TEST_F(TextOutputTest, AfficheCentreCentresOnTheLineAndGivesTheEnd) {
+  Long fin = 0;
+  ky.AfficheCentre(5, u"N", u"abcd", true, &fin);  // (11820 - 420) / 2
+  EXPECT_EQ(TakeLog(), Cleared(1560) + Written(5700, 1560, 6120, "abcd"));
+  EXPECT_EQ(fin, 6120);
+  ky.AfficheCentre(6, u"N", u"abcde", false, &fin);  // 11295 halved, remainder dropped
+  EXPECT_EQ(TakeLog(), Written(5647, 1872, 6172, "abcde"));
+  ky.AfficheCentre(5, u"N", u"", true, &fin);  // an empty message only clears
+  EXPECT_EQ(TakeLog(), Cleared(1560));
+  EXPECT_EQ(fin, 6172);
+  ky.AffPosT(1000, 200);  // MesBasEcran, on line 25, returns to line 3 column 2
+  ky.MesBasEcran(u"N", u"Fin");
+  EXPECT_EQ(TakeLog(), Cleared(7800) + Written(5752, 7800, 6067, "Fin"));
+  ExpectAt(3, 2);
+  EXPECT_EQ(Env().CourantX, 210.0f);
+}
+
+TEST_F(TextOutputTest, TheLineFlowClearsTheNextLineAndPagesBeyondNbLigneLessOne) {
+  ky.AffPos(3, 1);
+  Long l = -5;  // ignored on entry
+  ky.AffLig(u"N", u"abc", &l);
+  EXPECT_EQ(TakeLog(), Cleared(936) + Written(105, 936, 420, "abc"));
+  EXPECT_EQ(l, 4);
+  ky.AffPosT(936, 420);  // in the middle of line 3
+  ky.AffL(u"def");
+  EXPECT_EQ(TakeLog(), Cleared(1248) + Written(420, 936, 735, "def"));
+  ky.AffSL(0);
+  ky.AffSL(2);  // blank lines
+  EXPECT_EQ(TakeLog(), Cleared(1248) + Written(105, 1248, 105, "") + Cleared(1560) +
+                           Written(105, 1560, 105, ""));
+  ExpectAt(6, 1);
+
+  ky.AffPos(26, 1);  // beyond NbLigne - 1 a new page starts
+  ky.AffL(u"x");
+  EXPECT_EQ(TakeLog(), Cleared(8112) + Written(105, 8112, 210, "x"));
+  for (Long column : {1, 5}) {  // at the start of line 27, in the middle of line 26
+    if (column == 5) ky.AffPos(26, 5);
+    ky.AffLig(u"N", u"y", &l);
+    EXPECT_EQ(TakeLog(), "Efface\n" + Cleared(312) + Written(105, 312, 210, "y")) << column;
+    EXPECT_EQ(l, 2);
+  }
 }
 
 }  // namespace

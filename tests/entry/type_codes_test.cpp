@@ -1,7 +1,9 @@
-// DecodeType and CodeType against the kit's Conv and Erreur: families,
-// decimals, the two error channels, yes/no, and stored forms that come back
-// through DecodeType as the value they hold.
+// DecodeType and CodeType against the kit's Conv and Erreur: families, decimals,
+// the two error channels, yes/no, and stored forms that come back whole.
 #include <gtest/gtest.h>
+
+#include <tuple>
+#include <vector>
 
 #include "entry/entry_fixture.hpp"
 
@@ -11,10 +13,12 @@ namespace {
 using TypeCodeTest = EntryTest;
 
 struct Decoded {
-  String c;
-  String typ;
-  Integer nb = 99;
-  Integer nd = 99;
+  String c, typ;
+  Integer nb = 99, nd = 99;  // 99: left as it was
+  friend bool operator==(const Decoded&, const Decoded&) = default;
+  friend void PrintTo(const Decoded& d, std::ostream* out) {
+    *out << ToUtf8(d.c) << " " << ToUtf8(d.typ) << " NB " << d.nb << " ND " << d.nd;
+  }
 };
 
 Decoded Decode(String stored, String typ) {
@@ -24,79 +28,40 @@ Decoded Decode(String stored, String typ) {
 }
 
 TEST_F(TypeCodeTest, CodeLengthDecidesFamilyLetterAndDecimals) {
-  struct Case {
-    const char16_t* typ;
-    String stored;
-    Integer nb;
-    Integer nd;  // 99: left as it was
-    const char16_t* letter;
-    const char16_t* shown;
-  };
-  const Case cases[] = {
-      {u"I0", StoredInteger(-12), -1, 0, u"I", u"-12"},
-      {u"I2", StoredInteger(7), -1, 2, u"I", u"7.00"},
-      {u"S2", StoredSingle(1.5F), -1, 2, u"S", u"1.50"},
-      {u"D2", StoredDouble(2.125), -1, 2, u"D", u"2.13"},
-      {u"D0", StoredDouble(41.5), -1, 0, u"D", u"42"},  // a real, not a date
-      {u"N2", u"12.5   ", -1, 2, u"N", u"12.50"},
-      {u"N12", u"3", -1, 12, u"N", u"3.000000000000"},
-      {u"D", u"01/02/2003  ", 0, 99, u"D", u"01/02/2003"},  // a date
-      {u"A", u"  texte  ", 0, 99, u"A", u"  texte"},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(ToUtf8(c.typ));
-    const Decoded d = Decode(c.stored, c.typ);
-    EXPECT_EQ(d.nb, c.nb);
-    EXPECT_EQ(d.nd, c.nd);
-    EXPECT_EQ(ToUtf8(d.typ), ToUtf8(c.letter));
-    EXPECT_EQ(ToUtf8(d.c), ToUtf8(c.shown));
+  for (const auto& [typ, stored, want] : std::vector<std::tuple<String, String, Decoded>>{
+           {u"I0", StoredInteger(-12), {u"-12", u"I", -1, 0}},
+           {u"I2", StoredInteger(7), {u"7.00", u"I", -1, 2}},
+           {u"S2", StoredSingle(1.5F), {u"1.50", u"S", -1, 2}},
+           {u"D2", StoredDouble(2.125), {u"2.13", u"D", -1, 2}},
+           {u"D0", StoredDouble(41.5), {u"42", u"D", -1, 0}},  // a real, not a date
+           {u"N2", u"12.5   ", {u"12.50", u"N", -1, 2}},
+           {u"N12", u"3", {u"3.000000000000", u"N", -1, 12}},
+           {u"D", u"01/02/2003  ", {u"01/02/2003", u"D", 0, 99}},  // a date
+           {u"A", u"  texte  ", {u"  texte", u"A", 0, 99}}}) {
+    EXPECT_EQ(Decode(stored, typ), want) << ToUtf8(typ);
   }
   EXPECT_TRUE(session.Records().reports.empty());
 }
 
-TEST_F(TypeCodeTest, UnknownPlainLetterReportsNumber55AndTrims) {
-  const Decoded d = Decode(u"abc   ", u"I");
-  EXPECT_EQ(d.nb, 0);
-  EXPECT_EQ(ToUtf8(d.c), "abc");
-  ASSERT_EQ(session.Records().reports.size(), 1U);
-  const kit::ErrorReport& r = session.Records().reports[0];
-  ASSERT_TRUE(r.code.has_value());
-  EXPECT_EQ(*r.code, 55);
-  EXPECT_TRUE(r.text.empty());
+TEST_F(TypeCodeTest, UnknownCodesAreReportedByNumberOrByText) {
+  const auto& reports = session.Records().reports;
+  EXPECT_EQ(Decode(u"abc   ", u"I"), (Decoded{u"abc", u"I", 0, 99}));  // trimmed
+  ASSERT_EQ(reports.size(), 1U);
+  EXPECT_EQ(reports[0].code, 55);
+  EXPECT_TRUE(reports[0].text.empty());
+  // A numeric code of an unknown letter, or of none, shows 0 with its decimals.
+  EXPECT_EQ(Decode(u"whatever", u"A2"), (Decoded{u"0.00", u"A", -1, 2}));
+  ASSERT_EQ(reports.size(), 2U);
+  EXPECT_EQ(reports[1].source, u"DecodeType");
+  EXPECT_EQ(reports[1].text, u"Le Type de Donnée <@A@> est Inconnu");
+  EXPECT_EQ(Decode(u"5", u""), (Decoded{u"0", u"", -1, 0}));
+  EXPECT_EQ(reports.back().text, u"Le Type de Donnée <@@> est Inconnu");
 }
 
-TEST_F(TypeCodeTest, UnknownNumericLetterReportsTheTextAndShowsZero) {
-  const Decoded d = Decode(u"whatever", u"A2");
-  EXPECT_EQ(d.nb, -1);
-  EXPECT_EQ(d.nd, 2);
-  EXPECT_EQ(ToUtf8(d.typ), "A");
-  EXPECT_EQ(ToUtf8(d.c), "0.00");
-  ASSERT_EQ(session.Records().reports.size(), 1U);
-  const kit::ErrorReport& r = session.Records().reports[0];
-  EXPECT_FALSE(r.code.has_value());
-  EXPECT_EQ(ToUtf8(r.source), "DecodeType");
-  EXPECT_EQ(ToUtf8(r.text), "Le Type de Donnée <@A@> est Inconnu");
-}
-
-TEST_F(TypeCodeTest, EmptyCodeIsNumericWithNothingBetweenTheHalves) {
-  const Decoded d = Decode(u"5", u"");
-  EXPECT_EQ(d.nb, -1);
-  EXPECT_EQ(d.nd, 0);
-  EXPECT_EQ(ToUtf8(d.c), "0");
-  ASSERT_EQ(session.Records().reports.size(), 1U);
-  EXPECT_EQ(ToUtf8(session.Records().reports[0].text), "Le Type de Donnée <@@> est Inconnu");
-}
-
-TEST_F(TypeCodeTest, YesNoShowsOuiOnlyForO) {
-  const struct {
-    const char16_t* stored;
-    const char16_t* shown;
-  } cases[] = {{u"O", u"OUI"},   {u"o", u"OUI"}, {u"O  ", u"OUI"}, {u"N", u"NON"},
-               {u"   ", u"NON"}, {u"", u"NON"},  {u"OUI", u"NON"}, {u"x", u"NON"}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(ToUtf8(c.stored));
-    EXPECT_EQ(ToUtf8(Decode(c.stored, u"B").c), ToUtf8(c.shown));
-  }
+TEST_F(TypeCodeTest, YesNoShowsOuiOnlyForOAndStoresOneLetter) {
+  for (const char16_t* oui : {u"O", u"o", u"O  "}) EXPECT_EQ(Decode(oui, u"B").c, u"OUI");
+  for (const char16_t* non : {u"N", u"   ", u"", u"OUI", u"x"})
+    EXPECT_EQ(Decode(non, u"B").c, u"NON") << ToUtf8(non);
   for (const char16_t* shown : {u"OUI", u"NON"}) {
     String c = shown;
     KySaisie{}.CodeType(c, u"B", 0);
@@ -105,34 +70,22 @@ TEST_F(TypeCodeTest, YesNoShowsOuiOnlyForO) {
 }
 
 TEST_F(TypeCodeTest, CodingPacksNumbersAndKeepsTexts) {
-  const struct {
-    const char16_t* shown;
-    const char16_t* letter;
-    Integer nb;
-    String stored;
-  } cases[] = {
-      {u"258", u"I", -1, Bytes({0x02, 0x01})},
-      {u"2.5", u"I", -1, StoredInteger(2)},  // ties to even
-      {u"3.5", u"I", -1, StoredInteger(4)},
-      {u"-1", u"I", -1, Bytes({0xFF, 0xFF})},
-      {u"abc", u"I", -1, StoredInteger(0)},  // no leading number: 0
-      {u"0.1", u"S", -1, StoredSingle(0.1F)},
-      {u"0.1", u"D", -1, StoredDouble(0.1)},
-      {u"AV12", u"N", -1, u"AV12"},
-      {u"12.50", u"A", -1, u"12.50"},  // unknown numeric letter: unchanged
-      {u"texte", u"A", 0, u"texte"},
-      {u"01/02/2003", u"D", 0, u"01/02/2003"},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(ToUtf8(c.shown) + " as " + ToUtf8(c.letter));
-    String m = c.shown;
-    KySaisie{}.CodeType(m, c.letter, c.nb);
-    EXPECT_EQ(Show(m), Show(c.stored));
+  for (auto [shown, letter, nb, stored] : std::vector<std::tuple<String, String, Integer, String>>{
+           {u"258", u"I", -1, u"\x02\x01"},  // least significant byte first
+           {u"-1", u"I", -1, u"\xFF\xFF"},
+           {u"2.5", u"I", -1, StoredInteger(2)},  // ties to even
+           {u"3.5", u"I", -1, StoredInteger(4)},
+           {u"abc", u"I", -1, StoredInteger(0)},  // no leading number: 0
+           {u"0.1", u"S", -1, StoredSingle(0.1F)},
+           {u"0.1", u"D", -1, StoredDouble(0.1)},
+           {u"AV12", u"N", -1, u"AV12"},
+           {u"12.50", u"A", -1, u"12.50"},  // unknown numeric letter: unchanged
+           {u"01/02/2003", u"D", 0, u"01/02/2003"}}) {
+    const String typed = shown;
+    KySaisie{}.CodeType(shown, letter, nb);
+    EXPECT_EQ(shown, stored) << ToUtf8(typed) << " as " << ToUtf8(letter);
   }
   EXPECT_TRUE(session.Records().reports.empty());
-}
-
-TEST_F(TypeCodeTest, IntegerBeyondSixteenBitsOverflowsWhenCoded) {
   String m = u"32768";
   ExpectPlatformError([&] { KySaisie{}.CodeType(m, u"I", -1); }, 6);
 }
@@ -140,27 +93,22 @@ TEST_F(TypeCodeTest, IntegerBeyondSixteenBitsOverflowsWhenCoded) {
 // Values whose packed form holds zero bytes, or bytes above 127, must come
 // back whole: a stored form is binary, not a C string.
 TEST_F(TypeCodeTest, StoredFormsComeBackThroughDecodeType) {
-  const struct {
-    const char16_t* typ;
-    const char16_t* shown;
-  } cases[] = {
-      {u"I0", u"0"},     {u"I0", u"256"},        {u"I0", u"-256"},
-      {u"I0", u"32767"}, {u"I0", u"-32767"},     {u"I2", u"12.00"},
-      {u"S2", u"0.00"},  {u"S2", u"1.50"},       {u"S2", u"-2.00"},
-      {u"S0", u"65536"}, {u"D2", u"100.00"},     {u"D2", u"15.24"},
-      {u"D0", u"0"},     {u"D4", u"-1234.5678"}, {u"D2", u"9999999999999.99"},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(ToUtf8(c.typ) + " " + ToUtf8(c.shown));
-    String typ = c.typ;
-    Integer nb = 0;
-    Integer nd = 0;
-    String first = u"";  // decode anything once, for the letter and family
-    KySaisie{}.DecodeType(first, typ, nb, nd);
-    String stored = c.shown;
-    KySaisie{}.CodeType(stored, typ, nb);
-    const Decoded again = Decode(stored, c.typ);
-    EXPECT_EQ(ToUtf8(again.c), ToUtf8(c.shown)) << "stored as " << Show(stored);
+  const std::pair<String, std::vector<String>> cases[] = {
+      {u"I0", {u"0", u"256", u"-256", u"32767", u"-32767"}},
+      {u"I2", {u"12.00"}},
+      {u"S2", {u"0.00", u"1.50", u"-2.00"}},
+      {u"S0", {u"65536"}},
+      {u"D0", {u"0"}},
+      {u"D2", {u"100.00", u"15.24", u"9999999999999.99"}},
+      {u"D4", {u"-1234.5678"}}};
+  for (const auto& [typ, values] : cases) {
+    for (const String& shown : values) {
+      const Decoded family = Decode(u"", typ);  // for the letter and NB
+      String stored = shown;
+      KySaisie{}.CodeType(stored, family.typ, family.nb);
+      EXPECT_EQ(Decode(stored, typ).c, shown)
+          << ToUtf8(typ) << " stored as " << ::testing::PrintToString(stored);
+    }
   }
 }
 
