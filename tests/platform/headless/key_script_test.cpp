@@ -57,10 +57,10 @@ TEST(KeyScriptTest, RefusesBadScriptsNamingThePlaceAndQueuesNothing) {
       {"a\tb", "at 2: control character U+0009 in a key script: use a key name such as {Enter}"},
       {"\xF0\x9F\x98\x80", "at 1: a character beyond U+FFFF has no key code"},
   };
-  for (const auto& [script, detail] : cases) {
+  for (const auto& c : cases) {
     ferlan::testing::ExpectPlatformError(
-        [&] { KeyScript::Parse(script); }, 5,
-        std::string("Invalid procedure call or argument: key script ") + detail);
+        [&] { KeyScript::Parse(c.first); }, 5,
+        std::string("Invalid procedure call or argument: key script ") + c.second);
   }
   KeyScript script;
   EXPECT_EQ(script.Append("ab{Left}"), 3u);
