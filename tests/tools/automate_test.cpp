@@ -59,6 +59,34 @@ TEST_F(AutomateTest, KeysReachAWaitAndAnEmptyScriptStarves) {
   EXPECT_FALSE(next.contains("starved")) << "starvation lasts for one call";
 }
 
+TEST_F(AutomateTest, ScriptedKeysReachSaisieThroughTheProtocol) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"{Left}", R"(["R",37])"},          {"{Shift+Tab}", R"(["R",1009])"},
+      {"{Ctrl+Shift+Left}", R"(["R",3037])"}, {"{Alt+R}", R"(["R",4082])"},
+      {"{Shift+F1}", R"(["R",1112])"},    {"{Ctrl+B}", "[\"\\u0002\",0]"},
+      {"{Shift+a}", R"(["A",0])"},       {"{Ctrl+R}", R"(["R",0])"},
+      {"{CapsLock}x", R"(["x",0])"}};
+  for (const auto& c : cases) {
+    Ask(std::string(R"({"keys":")") + c.first + R"("})");
+    const Json answer = Ask(R"({"call":"Saisie","args":["R",0]})");
+    EXPECT_EQ(answer["args"], Json::parse(c.second)) << c.first;
+  }
+}
+
+TEST_F(AutomateTest, StoredBinaryFormsTravelAndDecodeToTheSameValue) {
+  for (const char* value : {"256", "-32767", "0"}) {
+    const Json coded = Ask(std::string(R"({"call":"CodeType","args":[")") + value + R"(","I",-1]})");
+    const Json stored = coded["args"][0];
+    Json request = {{"call", "DecodeType"}, {"args", {stored, "I0", 0, 0}}};
+    const Json decoded = Ask(request.dump());
+    EXPECT_EQ(decoded["args"][0], value) << stored.dump();
+    EXPECT_EQ(decoded["args"][1], "I");
+  }
+  const Json real = Ask(R"({"call":"CodeType","args":["1234.5","D",-1]})");
+  Json request = {{"call", "DecodeType"}, {"args", {real["args"][0], "D2", 0, 0}}};
+  EXPECT_EQ(Ask(request.dump())["args"][0], "1234.50");
+}
+
 TEST_F(AutomateTest, GetSetNewLogAndReset) {
   EXPECT_EQ(Ask(R"({"set":{"Env.ToucheEntree":10,"Form.WindowState":2,"Clipboard":"hé"}})")["ok"],
             true);
