@@ -7,6 +7,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev nlohmann-json3-dev
   clang libclang-rt-14-dev
   libcairo2-dev libfreetype-dev libfontconfig-dev fontconfig fonts-dejavu-core
+  libncurses-dev  # the peer benchmark only
 )
 
 missing=()
