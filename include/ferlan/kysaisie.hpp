@@ -7,6 +7,7 @@
 //   [SECTION] Keyboard: key pipeline and virtual keyboard
 //   [SECTION] Field editor and its helpers
 //   [SECTION] Typed entry: type codes, ModD, ModDT
+//   [SECTION] Entry screens
 //   [SECTION] Text display: grid, colours, output, erasing
 //   [SECTION] Window management: sizing
 //
@@ -85,6 +86,18 @@ class KySaisie {
              const String& LRacAutoNb = u"[]", const String& Coul = u"B",
              PictureBoxRef KyFSubst = nullptr, Single CaretX = 0, Single CaretY = 0,
              Integer* Col = nullptr);
+
+  // -------------------------------------------------------------------------
+  // [SECTION] Entry screens
+  // -------------------------------------------------------------------------
+  // Reads a screen definition into the record table and lays it out. `L` is
+  // consumed: the caller finds "[]" in it on return.
+  void Dorvi(String& L);
+  // Lays out and draws the current table; True sizes the form for the
+  // screen, False only makes sure that it is large enough.
+  void EcrSais(Boolean ReDimFeuille);
+  // Draws record `I`: its label box and its entry box. Outside 0 to 40: 9.
+  void GénèreControl(Integer I);
 
   // -------------------------------------------------------------------------
   // [SECTION] Text display: grid, colours, output, erasing

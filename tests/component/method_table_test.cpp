@@ -76,7 +76,7 @@ TEST(MethodTableTest, InvokersCheckArgumentsAndWriteOutputsBack) {
             429);  // no Global registered: the external object can't be created
 
   std::vector<Variant> none;
-  EXPECT_EQ(ErrorNumberOf([&] { FindMethod("Dorvi")->invoke(k, none); }), 445);
+  EXPECT_EQ(ErrorNumberOf([&] { FindMethod("Dorvi")->invoke(k, none); }), 449);
   EXPECT_EQ(FindMethod("NoSuchMethod"), nullptr);
 }
 
