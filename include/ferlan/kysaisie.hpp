@@ -9,7 +9,8 @@
 //   [SECTION] Typed entry: type codes, ModD, ModDT
 //   [SECTION] Entry screens
 //   [SECTION] Text display: grid, colours, output, erasing
-//   [SECTION] Window management: sizing
+//   [SECTION] Window management: sizing, waiting, screen save, caption,
+//             rules, message zone
 //
 // Arguments: a non-const reference is an output (the caller's variable is
 // written); a pointer is an optional output, nullptr when left out; anything
@@ -137,13 +138,20 @@ class KySaisie {
   void EffaceEcran(Boolean RéductionFeuille = false);
 
   // -------------------------------------------------------------------------
-  // [SECTION] Window management: sizing
+  // [SECTION] Window management: sizing, waiting, screen save, caption,
+  //           rules, message zone
   // -------------------------------------------------------------------------
   Long EspaceFeuille(Long L, Long H);
   void Centrage(PictureBoxRef P, Long MargeBasse = 0);
   void InitKyF();
   void DimensionFeuille(Integer H, Integer L = 80);
   void DimensionFeuilleLT(Integer H, Single L, Boolean QueSiInf = false);
+
+  void TraceColonne(Integer Ld, Integer C, Integer Lf, const String& Mode);
+  void Titre(const String& T);
+  // `P` is shown in the form's "zoneMessage" under the surface.
+  void AfficheZoneMessage(const PictureRef& P);
+  void EffaceZoneMessage();
 };
 
 }  // namespace ferlan

@@ -31,6 +31,8 @@ V FromVariant(const Variant& v) {
     if (std::holds_alternative<Empty>(v)) return {};
     if (const auto* s = std::get_if<String>(&v)) return *s;
     throw PlatformError::TypeMismatch("a text was expected");
+  } else if constexpr (std::is_same_v<V, PictureRef>) {
+    return VariantAs<Picture>(v);
   } else {
     static_assert(std::is_same_v<V, PictureBoxRef>, "parameter type without a conversion");
     return VariantAs<PictureBox>(v);
@@ -39,7 +41,7 @@ V FromVariant(const Variant& v) {
 
 template <class V>
 Variant ToVariant(const V& value) {
-  if constexpr (std::is_same_v<V, PictureBoxRef>) {
+  if constexpr (std::is_same_v<V, PictureBoxRef> || std::is_same_v<V, PictureRef>) {
     return ObjectRef(value);
   } else {
     return value;
@@ -229,8 +231,8 @@ std::vector<MethodInfo> BuildTable() {
       Built("AffLig", &K::AffLig),
       Built("AffL", &K::AffL),
       Built("AffSL", &K::AffSL),
-      Later("TraceColonne"),
-      Later("Titre"),
+      Built("TraceColonne", &K::TraceColonne),
+      Built("Titre", &K::Titre),
       Built("CouleurFond", &K::CouleurFond),
       Built("Couleur", &K::Couleur),
       Later("AffTab"),
@@ -238,8 +240,8 @@ std::vector<MethodInfo> BuildTable() {
       Later("CTab"),
       Later("LTab"),
       Later("RechIdenTab"),
-      Later("AfficheZoneMessage"),
-      Later("EffaceZoneMessage"),
+      Built("AfficheZoneMessage", &K::AfficheZoneMessage),
+      Built("EffaceZoneMessage", &K::EffaceZoneMessage),
   };
   for (std::size_t i = 0; i < t.size(); ++i) t[i].dispid = kFirstDispId + static_cast<Long>(i);
   return t;
