@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # The main job: set up, build, and replay the example session through
-# `ferlan automate`, printing its answers; then write a picture of the
-# example screen on the raster surface.
+# `ferlan automate`, printing its answers; then write pictures of the
+# example screens on the raster surface (ferlan-example.png,
+# ferlan-messages.png).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/setup.sh
@@ -10,3 +11,5 @@ echo "== ferlan automate < examples/hello.jsonl"
 timeout 120 build/ferlan automate < examples/hello.jsonl
 echo "== ferlan automate --surface raster < examples/screen.jsonl"
 timeout 120 build/ferlan automate --surface raster < examples/screen.jsonl
+echo "== ferlan automate --surface raster < examples/messages.jsonl"
+timeout 120 build/ferlan automate --surface raster < examples/messages.jsonl

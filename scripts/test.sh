@@ -20,7 +20,11 @@ ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
 echo "== fuzzers, 15 s each"
 for f in build-asan/fuzz/*_fuzzer; do
   [ -x "$f" ] || continue
-  "$f" -max_total_time=15 -print_final_stats=0 >/dev/null 2>"$f.log" || {
+  # Seeds, where a target has them, are copied: the run adds to its corpus.
+  corpus=()
+  seeds="fuzz/corpus/$(basename "$f" _fuzzer)"
+  if [ -d "$seeds" ]; then corpus=("$(mktemp -d)"); cp "$seeds"/* "${corpus[0]}"/; fi
+  "$f" "${corpus[@]}" -max_total_time=15 -print_final_stats=0 >/dev/null 2>"$f.log" || {
     cat "$f.log"; exit 1; }
   echo "$(basename "$f"): no finding"
 done

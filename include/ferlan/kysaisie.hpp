@@ -9,6 +9,8 @@
 //   [SECTION] Typed entry: type codes, ModD, ModDT
 //   [SECTION] Entry screens
 //   [SECTION] Text display: grid, colours, output, erasing
+//   [SECTION] Text display: coloured messages and blocks
+//   [SECTION] Tables
 //   [SECTION] Window management: sizing, waiting, screen save, caption,
 //             rules, message zone
 //
@@ -136,6 +138,29 @@ class KySaisie {
   void EffaceLignes(Integer Ld, Integer Lf);
   void EffaceLigne(Integer L, Integer C = 1);
   void EffaceEcran(Boolean RéductionFeuille = false);
+
+  // -------------------------------------------------------------------------
+  // [SECTION] Text display: coloured messages and blocks
+  // -------------------------------------------------------------------------
+  // LM is a list of runs [colour code, text, size letter?]; the caller's
+  // list is not changed. C -1 centres the message on the surface.
+  void AffMesCoul(Long L, String LM, Boolean EffAv = true, Single C = -1);
+  Long LongMesCoul(String LM);
+  Single TailleMesCoul(const String& A);
+  // L is consumed: on return it is "[]".
+  void AffBloc(const String& C, String& L, const String& E, Boolean EffAv = false,
+               Boolean Agrand = true, Boolean MesCoul = false);
+  void AfficheBlocMes(const String& M, Long L);
+
+  // -------------------------------------------------------------------------
+  // [SECTION] Tables
+  // -------------------------------------------------------------------------
+  // L, the column description, is consumed: on return it is "[]".
+  void AffTab(Long NL, String& L, Single MB = 0);
+  Integer NLTab();
+  Integer CTab(const String& I);
+  Integer LTab(Long L);
+  void RechIdenTab(const String& I, Integer& R);
 
   // -------------------------------------------------------------------------
   // [SECTION] Window management: sizing, waiting, screen save, caption,

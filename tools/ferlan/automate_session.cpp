@@ -5,6 +5,7 @@
 #include <string>
 
 #include "ferlan/method_table.hpp"
+#include "ferlan/property_path.hpp"
 #include "headless/session.hpp"
 #if FERLAN_HAVE_RASTER
 #include "raster/form_picture.hpp"
@@ -44,13 +45,18 @@ Json ReportsOf(const kit::Records& records, std::size_t from) {
   return out;
 }
 
-Json BoxesOf(const kit::Records& records, std::size_t from) {
+// Message boxes, then the block messages given to Boite.BlocMes.
+Json BoxesOf(const kit::Records& records, std::size_t from, std::size_t blocs_from) {
   Json out = Json::array();
   for (std::size_t i = from; i < records.boxes.size(); ++i) {
     const auto& b = records.boxes[i];
     out.push_back({{"style", TextToJson(b.style)},
                    {"title", TextToJson(b.title)},
                    {"text", TextToJson(b.text)}});
+  }
+  for (std::size_t i = blocs_from; i < records.blocs.size(); ++i) {
+    out.push_back({{"bloc", TextToJson(records.blocs[i].message)},
+                   {"line", records.blocs[i].line}});
   }
   return out;
 }
@@ -145,6 +151,7 @@ Json AutomateSession::Call(const Json& request) {
   kit::Records& records = session_->Records();
   const std::size_t reports = records.reports.size();
   const std::size_t boxes = records.boxes.size();
+  const std::size_t blocs = records.blocs.size();
   const std::size_t help = records.help.size();
   session_->BeginCall();
 
@@ -164,7 +171,7 @@ Json AutomateSession::Call(const Json& request) {
   }
   answer["args"] = out_args;
   answer["reports"] = ReportsOf(records, reports);
-  answer["boxes"] = BoxesOf(records, boxes);
+  answer["boxes"] = BoxesOf(records, boxes, blocs);
   answer["help"] = HelpOf(records, help);
   if (session_->EndCall()) answer["starved"] = true;
   return answer;
@@ -268,7 +275,8 @@ Variant AutomateSession::GetValue(const std::string& path) {
   ObjectRef object = ObjectNamed(head);
   if (!object) throw PlatformError::MemberNotSupported(path);
   if (member.empty()) return object;
-  return object->GetProperty(member);
+  const auto [holder, last] = ResolveMember(object, member, path);
+  return holder->GetProperty(last);
 }
 
 void AutomateSession::SetValue(const std::string& path, const Json& value) {
@@ -280,7 +288,8 @@ void AutomateSession::SetValue(const std::string& path, const Json& value) {
   const auto [head, member] = SplitPath(path);
   ObjectRef object = ObjectNamed(head);
   if (!object || member.empty()) throw PlatformError::MemberNotSupported(path);
-  object->SetProperty(member, JsonToVariant(value, lookup));
+  const auto [holder, last] = ResolveMember(object, member, path);
+  holder->SetProperty(last, JsonToVariant(value, lookup));
 }
 
 }  // namespace ferlan::tool
