@@ -6,8 +6,8 @@
 //   [SECTION] Apartment
 //   [SECTION] Keyboard: key pipeline and virtual keyboard
 //   [SECTION] Field editor and its helpers
-//   [SECTION] Typed entry: type codes, ModD, ModDT
-//   [SECTION] Entry screens
+//   [SECTION] Typed entry: type codes, ModD, ModDT, logical entry
+//   [SECTION] Entry screens: definition, layout, entry and display by identifier
 //   [SECTION] Text display: grid, colours, output, erasing
 //   [SECTION] Text display: coloured messages and blocks
 //   [SECTION] Tables
@@ -90,8 +90,15 @@ class KySaisie {
              PictureBoxRef KyFSubst = nullptr, Single CaretX = 0, Single CaretY = 0,
              Integer* Col = nullptr);
 
+  // Yes/no values: "O" for True, "N" for False.
+  String TrLogS(Boolean B);
+  void TransLogS(Boolean B, String& L);
+  void TransSLog(const String& L, Boolean& B);
+  void SaisL(const String& I, Boolean& L, Integer& TR, const String& Coul = u"B");
+  void SaiLON(Boolean& Logique, Integer& TR, const String& Coul = u"B");
+
   // -------------------------------------------------------------------------
-  // [SECTION] Entry screens
+  // [SECTION] Entry screens: definition, layout, entry and display by identifier
   // -------------------------------------------------------------------------
   // Reads a screen definition into the record table and lays it out. `L` is
   // consumed: the caller finds "[]" in it on return.
@@ -101,6 +108,28 @@ class KySaisie {
   void EcrSais(Boolean ReDimFeuille);
   // Draws record `I`: its label box and its entry box. Outside 0 to 40: 9.
   void GénèreControl(Integer I);
+
+  // `I` is a field's identifier in the record table; an unknown one is
+  // reported and the method goes on with the never-filled record 0.
+  void RechRub(const String& I, Integer& R);
+  void SaisDon(const String& I, String& C, Integer& TR, const String& IMS, Long* O = nullptr,
+               const String& LRacAutoNb = u"[]", const String& Coul = u"B");
+  void SaisDonnee(const String& P, const String& I, String& C, Integer& TR, Long* O = nullptr,
+                  const String& LRacAutoNb = u"[]", const String& Coul = u"B");
+  void Sai(const String& I, String& C, Integer& TR, Boolean ClavierKY = false,
+           const String& LRacAutoNb = u"[]", const String& Coul = u"B");
+  void SaiD(const String& I, String& C, Integer& TR, Long& O, const String& Coul = u"B");
+  void SaiF(const String& I, String& C, Integer& TR, const String& Coul = u"B");
+  void ConsDon(const String& I, const String& C);
+  void AffDon(Integer L, Single CT, Single LzT, Single CzT, String C, String T);
+  void PosAD(const String& I, Single& Y, Single& X);
+  void MesAD(const String& I, const String& C, const String& Mes);
+  void ImageAD(const String& I, PictureBoxRef C);
+  void MesSD(const String& I, const String& C, const String& Mes, Boolean EffLigneEntière = false);
+  void ImageSD(const String& I, PictureBoxRef C);
+  void MesSR(const String& I, const String& C, const String& Mes, Boolean EffLigneEntière = false,
+             Boolean EffRien = false);
+  void PosAffRub(const String& I, Long& L, Long& C);
 
   // -------------------------------------------------------------------------
   // [SECTION] Text display: grid, colours, output, erasing

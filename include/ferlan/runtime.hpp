@@ -66,6 +66,9 @@ Integer MulInt(Integer a, Integer b);
 Long AddLng(Long a, Long b);
 Long SubLng(Long a, Long b);
 Long MulLng(Long a, Long b);
+// Whole-number division (the platform's backslash): truncates toward zero;
+// b 0 is division by zero.
+Long DivLng(Long a, Long b);
 // Narrowing of a wider whole number, checked.
 Integer ToInteger(long long value);
 Long ToLong(long long value);

@@ -49,6 +49,10 @@ Integer MulInt(Integer a, Integer b) { return Narrow<Integer>(1LL * a * b); }
 Long AddLng(Long a, Long b) { return Narrow<Long>(1LL * a + b); }
 Long SubLng(Long a, Long b) { return Narrow<Long>(1LL * a - b); }
 Long MulLng(Long a, Long b) { return Narrow<Long>(1LL * a * b); }
+Long DivLng(Long a, Long b) {
+  if (b == 0) throw PlatformError::DivisionByZero();
+  return Narrow<Long>(1LL * a / b);  // the one overflow: the lowest Long by -1
+}
 
 Double Divide(Double a, Double b) {
   if (b == 0) {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "ferlan/method_table.hpp"
+#include "ferlan/picture_objects.hpp"
 #include "ferlan/property_path.hpp"
 #include "headless/session.hpp"
 #if FERLAN_HAVE_RASTER
@@ -206,10 +207,13 @@ Json AutomateSession::New(const Json& request) {
     throw BadRequest("new: {\"name\":...,\"kind\":\"PictureBox\",\"set\":{...}}");
   }
   const std::string kind = order.value("kind", std::string("PictureBox"));
-  if (kind != "PictureBox") throw BadRequest("new: unknown kind \"" + kind + "\"");
+  if (kind != "PictureBox" && kind != "Picture") {
+    throw BadRequest("new: unknown kind \"" + kind + "\"");
+  }
   const std::string name = order["name"].get<std::string>();
   if (name.find('.') != std::string::npos) throw BadRequest("new: a name holds no point");
-  named_[name] = session_->NewPictureBox();
+  named_[name] = kind == "Picture" ? LoadPictureControl(*session_, name, order)
+                                   : session_->NewPictureBox();
   if (order.contains("set")) {
     if (!order["set"].is_object()) throw BadRequest("new: set is an object");
     for (const auto& [property, value] : order["set"].items()) {

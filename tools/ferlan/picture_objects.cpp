@@ -1,0 +1,44 @@
+#include "ferlan/picture_objects.hpp"
+
+#include <fstream>
+#include <iterator>
+#include <vector>
+
+#include "headless/session.hpp"
+#if FERLAN_HAVE_RASTER
+#include "raster/picture_files.hpp"
+#endif
+
+namespace ferlan::tool {
+
+std::shared_ptr<forms::PictureBox> LoadPictureControl(headless::Session& session,
+                                                      const std::string& name, const Json& order) {
+  const std::string request = "new " + name;
+  if (!order.contains("file") || !order["file"].is_string()) {
+    throw PlatformError::InvalidCall(request + ": a Picture needs \"file\", a BMP or PNG file");
+  }
+  const std::string file = order["file"].get<std::string>();
+  std::ifstream in(file, std::ios::binary);
+  if (!in) throw PlatformError::InvalidCall(request + ": cannot read the file \"" + file + "\"");
+  const std::vector<std::uint8_t> bytes((std::istreambuf_iterator<char>(in)),
+                                        std::istreambuf_iterator<char>());
+  PictureRef picture;
+  try {
+#if FERLAN_HAVE_RASTER
+    // Decoding does not depend on the surface: PNG on the fixed one too.
+    picture = raster::DecodePicture(bytes);
+#else
+    picture = session.Global().LoadPicture(bytes);
+#endif
+  } catch (const PlatformError& e) {
+    throw PlatformError(e.Number(), request + ": \"" + file + "\": " + e.Description());
+  }
+  auto control = session.NewPictureBox();
+  control->SetVisible(false);
+  control->SetPicture(picture);
+  control->SetWidth(picture->Width());
+  control->SetHeight(picture->Height());
+  return control;
+}
+
+}  // namespace ferlan::tool
