@@ -72,7 +72,7 @@ TEST_F(PictureObjectTest, MissingOrBadFilesGiveClearErrors) {
         << answer.dump();
   }
   EXPECT_EQ(Ask(R"({"new":{"name":"p","kind":"Picture"}})")["error"]["number"], 5);
-  EXPECT_EQ(Ask(R"({"call":"ImageSD","args":["X",{"obj":"p"}]})")["error"]["number"], 91);
+  EXPECT_EQ(Ask(R"({"call":"ImageSD","args":["X",null]})")["error"]["number"], 91);
 }
 
 }  // namespace
