@@ -8,7 +8,7 @@
 #include "component/module_state.hpp"
 #include "ferlan/kysaisie.hpp"
 #include "ferlan/runtime.hpp"
-#include "screens/field_lookup.hpp"
+#include "screens/record_table.hpp"
 
 namespace ferlan {
 
@@ -18,13 +18,13 @@ void KySaisie::SaisDon(const String& I, String& C, Integer& TR, const String& IM
   Integer R = 0;
   KySaisie{}.RechRub(I, R);
   // Copied before the wait: a host's handler may replace the table meanwhile.
-  const RubRecord rec = st.Rub[static_cast<std::size_t>(R)];
+  const RubRecord rec = screens::RubAt(st, R);
 
   const Long ct = CLng(rec.CT);
   const Integer column = ToInteger(DivLng(ct, CLng(KySaisie{}.WinCol(1))));
   KySaisie{}.ModD(C, rec.TypeDon.Trimmed(), rec.L, column, static_cast<Single>(ct), rec.LC, TR,
                   CLng(rec.LzT), CLng(rec.CzT), IMS, O, LRacAutoNb, Coul);
-  st.Rub[static_cast<std::size_t>(R)].Valeur = C;
+  screens::RubAt(st, R).Valeur = C;
 }
 
 void KySaisie::SaisDonnee(const String& P, const String& I, String& C, Integer& TR, Long* O,

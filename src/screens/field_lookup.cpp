@@ -3,13 +3,14 @@
 #include "screens/field_lookup.hpp"
 
 #include "ferlan/kysaisie.hpp"
+#include "screens/record_table.hpp"
 
 namespace ferlan {
 
 void KySaisie::RechRub(const String& I, Integer& R) {
   ModuleState& st = State();
-  for (Integer n = 1; n <= st.NbRub && n < static_cast<Integer>(st.Rub.size()); ++n) {
-    if (st.Rub[n].Identif.Trimmed() == I) {
+  for (Integer n = 1; n <= st.NbRub; ++n) {
+    if (screens::RubAt(st, n).Identif.Trimmed() == I) {
       R = n;
       return;
     }
@@ -23,7 +24,7 @@ namespace screens {
 RubRecord& FieldRecord(ModuleState& st, const String& I) {
   Integer R = 0;
   KySaisie{}.RechRub(I, R);
-  return st.Rub[static_cast<std::size_t>(R)];
+  return RubAt(st, R);
 }
 
 }  // namespace screens
