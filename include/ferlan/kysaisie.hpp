@@ -201,6 +201,14 @@ class KySaisie {
   void DimensionFeuille(Integer H, Integer L = 80);
   void DimensionFeuilleLT(Integer H, Single L, Boolean QueSiInf = false);
 
+  // Saving nests: pairs of Mem and Res calls, last saved first restored.
+  // MemEcrSais also keeps the record table, 5 screens deep, and one copy of
+  // the column table.
+  void MemEcr();
+  void ResEcr();
+  void MemEcrSais();
+  void ResEcrSais();
+
   void TraceColonne(Integer Ld, Integer C, Integer Lf, const String& Mode);
   void Titre(const String& T);
   // `P` is shown in the form's "zoneMessage" under the surface.
