@@ -16,8 +16,7 @@
 //
 // Arguments: a non-const reference is an output (the caller's variable is
 // written); a pointer is an optional output, nullptr when left out; anything
-// else is an input. Methods of the interface that are not listed here are not
-// built yet: the method table answers them with error 445.
+// else is an input.
 #pragma once
 
 #include <memory>
@@ -200,6 +199,11 @@ class KySaisie {
   void InitKyF();
   void DimensionFeuille(Integer H, Integer L = 80);
   void DimensionFeuilleLT(Integer H, Single L, Boolean QueSiInf = false);
+
+  // Wait for the operator's acknowledgement: in a message box, or in a field
+  // on the surface, which is given back as it was.
+  void MessageAttente();
+  void Attente();
 
   // Saving nests: pairs of Mem and Res calls, last saved first restored.
   // MemEcrSais also keeps the record table, 5 screens deep, and one copy of

@@ -17,8 +17,7 @@ namespace ferlan {
 // arguments may be left out. Arguments the method writes are written back
 // into `args`. Gives the method's result, Empty for a procedure.
 // Errors: 450 for too many arguments, 449 for a required one left out, 13
-// for an argument of the wrong type, 445 for a method not built yet, and
-// whatever the method itself raises.
+// for an argument of the wrong type, and whatever the method itself raises.
 using Invoker = std::function<Variant(KySaisie& self, std::vector<Variant>& args)>;
 
 struct MethodInfo {

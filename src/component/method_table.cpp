@@ -32,6 +32,11 @@ V FromVariant(const Variant& v) {
     if (const auto* s = std::get_if<String>(&v)) return *s;
     throw PlatformError::TypeMismatch("a text was expected");
   } else if constexpr (std::is_same_v<V, PictureRef>) {
+    // A picture control where a picture is wanted gives its Picture, the
+    // control's default property, as the platform coerces it.
+    if (auto control = std::dynamic_pointer_cast<PictureBox>(VariantToObject(v))) {
+      return control->Picture();
+    }
     return VariantAs<Picture>(v);
   } else {
     static_assert(std::is_same_v<V, PictureBoxRef>, "parameter type without a conversion");
@@ -136,12 +141,6 @@ MethodInfo Built(std::string_view name, M method, Defaults defaults = {}) {
           }};
 }
 
-MethodInfo Later(std::string_view name) {
-  return {name, 0, [name](KySaisie&, std::vector<Variant>&) -> Variant {
-            throw PlatformError::NotBuilt("KySaisie." + std::string(name));
-          }};
-}
-
 std::vector<MethodInfo> BuildTable() {
   using K = KySaisie;
   const Variant nothing = ObjectRef{};
@@ -205,8 +204,8 @@ std::vector<MethodInfo> BuildTable() {
       Built("EspaceFeuille", &K::EspaceFeuille),
       Built("Centrage", &K::Centrage, {Long{0}}),
       Built("EffaceEcran", &K::EffaceEcran, {false}),
-      Later("MessageAttente"),
-      Later("Attente"),
+      Built("MessageAttente", &K::MessageAttente),
+      Built("Attente", &K::Attente),
       Built("InitKyF", &K::InitKyF),
       Built("DimensionFeuille", &K::DimensionFeuille, {Integer{80}}),
       Built("DimensionFeuilleLT", &K::DimensionFeuilleLT, {false}),
