@@ -7,6 +7,7 @@
 #include "ferlan/method_table.hpp"
 #include "ferlan/picture_objects.hpp"
 #include "ferlan/property_path.hpp"
+#include "ferlan/record_table_get.hpp"
 #include "headless/session.hpp"
 #if FERLAN_HAVE_RASTER
 #include "raster/form_picture.hpp"
@@ -275,6 +276,7 @@ std::string AutomateSession::NameOf(const ObjectRef& object) {
 
 Variant AutomateSession::GetValue(const std::string& path) {
   if (path == "Clipboard") return session_->ClipboardText();
+  if (auto record_value = RecordTableValue(path)) return *record_value;
   const auto [head, member] = SplitPath(path);
   ObjectRef object = ObjectNamed(head);
   if (!object) throw PlatformError::MemberNotSupported(path);
@@ -289,6 +291,7 @@ void AutomateSession::SetValue(const std::string& path, const Json& value) {
     session_->SetClipboardText(VariantToString(JsonToVariant(value, lookup)));
     return;
   }
+  if (IsRecordTablePath(path)) throw BadRequest("set: " + path + " is read-only");
   const auto [head, member] = SplitPath(path);
   ObjectRef object = ObjectNamed(head);
   if (!object || member.empty()) throw PlatformError::MemberNotSupported(path);
