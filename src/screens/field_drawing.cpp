@@ -14,8 +14,7 @@ void KySaisie::GénèreControl(Integer I) {
   const RubRecord& r = screens::RubAt(st, I);
   // MargeX on the vertical is deliberate: both boxes start that far above
   // the line.
-  const Single y =
-      CSng(static_cast<Double>(ky.WinLigne(r.L)) - MulInt(3, st.Env->MargeX()));
+  const Single y = CSng(static_cast<Double>(ky.WinLigne(r.L)) - MulInt(3, st.Env->MargeX()));
   const Single h = CSng(static_cast<Double>(ky.WinLigne(1)) - MulInt(3, st.Env->MargeY()));
 
   // Arguments in their written order: the surface, then the colours (an
@@ -24,8 +23,8 @@ void KySaisie::GénèreControl(Integer I) {
   const String colour = r.Coul.Trimmed();
   const Long background = ky.CouleurFond(colour);
   const Long foreground = ky.Couleur(colour);
-  st.Dessin->Cadre3D(*label_zone, background, foreground, r.Libelle.Trimmed(), y, r.ClT, r.LlT,
-                     h, u"3D", 0, u"G");
+  st.Dessin->Cadre3D(*label_zone, background, foreground, r.Libelle.Trimmed(), y, r.ClT, r.LlT, h,
+                     u"3D", 0, u"G");
 
   const PictureBoxRef entry_zone = CurrentZoneRef(st);
   st.Dessin->Rectangle(*entry_zone, st.Env->Blanc(), y, r.CzT, r.LzT, h);

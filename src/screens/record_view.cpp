@@ -1,9 +1,8 @@
 // The read-only view of the record table that include/ferlan/screen_records.hpp
 // offers outside the component.
-#include "ferlan/screen_records.hpp"
-
 #include <string>
 
+#include "ferlan/screen_records.hpp"
 #include "screens/record_table.hpp"
 
 namespace ferlan {

@@ -31,8 +31,8 @@ class ReaderTest : public ScreenTest {
 
 TEST_F(ReaderTest, CommandsAreCaseSensitiveButNReDimAndUnknownOnesAreReported) {
   Env().RubCourante = 7;
-  const String rest = Read(
-      u"[@col8,[A,a,A],@coulR,[B,b,A],@COL8,@COLONNE,[C,c,A],@NReDi,@,@nredimXYZ,[D,d,A]]");
+  const String rest =
+      Read(u"[@col8,[A,a,A],@coulR,[B,b,A],@COL8,@COLONNE,[C,c,A],@NReDi,@,@nredimXYZ,[D,d,A]]");
   EXPECT_EQ(rest, u"[]");
   EXPECT_EQ(Env().RubCourante, 0);
   EXPECT_EQ(Reports(), (std::vector<std::string>{
@@ -51,8 +51,9 @@ TEST_F(ReaderTest, CommandsAreCaseSensitiveButNReDimAndUnknownOnesAreReported) {
 
 TEST_F(ReaderTest, EmptyAndMissingColumnsDifferAndOnlyMLResetsTheColumn) {
   ky.AffPos(2);
-  Read(u"[@COL8,[A,a,A,5],[B,b,A,5,ML],[C,c,A,5,0],[D,d,A,5,ML,3],[E,e,A,5,\"\",\"\"],"
-       u"[F,f,A,5]]");
+  Read(
+      u"[@COL8,[A,a,A,5],[B,b,A,5,ML],[C,c,A,5,0],[D,d,A,5,ML,3],[E,e,A,5,\"\",\"\"],"
+      u"[F,f,A,5]]");
   ASSERT_EQ(NbRub(), 6);
   EXPECT_EQ(Rub(1).ClT, 840);
   EXPECT_EQ(Rub(2).ClT, Rub(1).CzT + Rub(1).LzT + 105);  // follows A even under @COL8
@@ -66,8 +67,9 @@ TEST_F(ReaderTest, EmptyAndMissingColumnsDifferAndOnlyMLResetsTheColumn) {
 
 TEST_F(ReaderTest, LinesAreRelativeAbsoluteOrTwoBelow) {
   ky.AffPos(2);
-  Read(u"[[A,a,A,5,S3],[B,b,A,5,S3],[C,c,A,5,\"\"],[D,d,A,5,S],[E,e,A,5,12],[F,f,A,5,s2],"
-       u"[G,g,A,5,\" \"]]");
+  Read(
+      u"[[A,a,A,5,S3],[B,b,A,5,S3],[C,c,A,5,\"\"],[D,d,A,5,S],[E,e,A,5,12],[F,f,A,5,s2],"
+      u"[G,g,A,5,\" \"]]");
   // S3 on the first field has no effect; an empty or blank line is -2 like
   // a missing one; "S" alone and "s2" (not "S") are the same line.
   const Integer lines[] = {2, 5, 7, 7, 12, 12, 14};
@@ -76,8 +78,9 @@ TEST_F(ReaderTest, LinesAreRelativeAbsoluteOrTwoBelow) {
 }
 
 TEST_F(ReaderTest, ColoursComeFromCommandsOrPositionEightAndKeepOneCharacter) {
-  Read(u"[@COULR,[A,a,A],[B,b,A,5,,,,\"\"],[C,c,A,5,,,,S],[D,d,A],@COUL,[E,e,A],"
-       u"@COULBleu,[F,f,A],[G,g,A,5,,,,Rouge,N]]");
+  Read(
+      u"[@COULR,[A,a,A],[B,b,A,5,,,,\"\"],[C,c,A,5,,,,S],[D,d,A],@COUL,[E,e,A],"
+      u"@COULBleu,[F,f,A],[G,g,A,5,,,,Rouge,N]]");
   // An empty colour ends as "I", a missing one keeps the current colour;
   // "@COULBleu" leaves "B"; an element after the eighth is not read.
   EXPECT_EQ(Colours(), "A:R B:I C:S D:R E:I F:B G:R ");
@@ -121,8 +124,8 @@ TEST_F(ReaderTest, FortyFieldsFitAndAFortyFirstRaisesNineKeepingTheTable) {
 }
 
 TEST_F(ReaderTest, NumbersBeyondIntegerRaiseOverflow) {
-  for (const String definition : {u"[[A,a,A,40000]]", u"[@COL40000]", u"[[A,a,A,5,S-32768]]",
-                                  u"[[A,a,A,5,1e10]]"}) {
+  for (const String definition :
+       {u"[[A,a,A,40000]]", u"[@COL40000]", u"[[A,a,A,5,S-32768]]", u"[[A,a,A,5,1e10]]"}) {
     String list = definition;
     ExpectPlatformError([&] { ky.Dorvi(list); }, 6);
   }

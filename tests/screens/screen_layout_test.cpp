@@ -28,8 +28,16 @@ class LayoutTest : public ScreenTest {
  protected:
   Placed At(int i) {
     const RubRecord& r = Rub(i);
-    return {ToUtf8(r.Identif.Trimmed()), ToUtf8(r.Coul.Trimmed()), r.LC, r.LcT, r.LzT, r.L,
-            r.ClT, r.CzT, r.CT, r.LlT};
+    return {ToUtf8(r.Identif.Trimmed()),
+            ToUtf8(r.Coul.Trimmed()),
+            r.LC,
+            r.LcT,
+            r.LzT,
+            r.L,
+            r.ClT,
+            r.CzT,
+            r.CT,
+            r.LlT};
   }
 };
 
