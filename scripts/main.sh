@@ -2,7 +2,7 @@
 # The main job: set up, build, and replay the example session through
 # `ferlan automate`, printing its answers; then write pictures of the
 # example screens on the raster surface (ferlan-example.png,
-# ferlan-messages.png).
+# ferlan-messages.png, ferlan-entry.png).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bash scripts/setup.sh
@@ -13,3 +13,5 @@ echo "== ferlan automate --surface raster < examples/screen.jsonl"
 timeout 120 build/ferlan automate --surface raster < examples/screen.jsonl
 echo "== ferlan automate --surface raster < examples/messages.jsonl"
 timeout 120 build/ferlan automate --surface raster < examples/messages.jsonl
+echo "== ferlan automate --surface raster < examples/entry_screen.jsonl"
+timeout 120 build/ferlan automate --surface raster < examples/entry_screen.jsonl
