@@ -41,6 +41,10 @@ class Apartment {
   Apartment(const Apartment&) = delete;
   Apartment& operator=(const Apartment&) = delete;
 
+  // Keys of the virtual keyboard wait to be read: each DoEvents of a wait
+  // hands one to the component, so a host's loop must not skip time then.
+  bool VirtualKeysPending() const;
+
   struct State;
 
  private:

@@ -115,6 +115,10 @@ Double Val(StringView s);
 // leading blank of positive numbers.
 String NumberText(Double value);
 
+// Late-bound names (properties, members, key names): equal when they differ
+// at most in the case of ASCII letters, as the platform matches them.
+bool SameName(std::string_view a, std::string_view b);
+
 // UTF-8 at the edges (JSON, messages, files).
 std::string ToUtf8(StringView s);
 String FromUtf8(std::string_view s);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <memory>
+#include <type_traits>
 #include <variant>
 
 #include "ferlan/runtime.hpp"
@@ -40,6 +41,35 @@ std::shared_ptr<T> VariantAs(const Variant& v) {
   auto typed = std::dynamic_pointer_cast<T>(o);
   if (!typed) throw PlatformError::TypeMismatch("object of another kind");
   return typed;
+}
+
+template <class T>
+inline constexpr bool kIsObjectRef = false;
+template <class T>
+inline constexpr bool kIsObjectRef<std::shared_ptr<T>> = true;
+
+// A Variant coerced into a variable of type T, by the conversion of that
+// type above: one place for every typed slot (parameters, fields, Pile).
+template <class T>
+T VariantTo(const Variant& v) {
+  if constexpr (std::is_same_v<T, Integer>) {
+    return VariantToInteger(v);
+  } else if constexpr (std::is_same_v<T, Long>) {
+    return VariantToLong(v);
+  } else if constexpr (std::is_same_v<T, Single>) {
+    return VariantToSingle(v);
+  } else if constexpr (std::is_same_v<T, Double>) {
+    return VariantToDouble(v);
+  } else if constexpr (std::is_same_v<T, Boolean>) {
+    return VariantToBoolean(v);
+  } else if constexpr (std::is_same_v<T, String>) {
+    return VariantToString(v);
+  } else if constexpr (std::is_same_v<T, ObjectRef>) {
+    return VariantToObject(v);
+  } else {
+    static_assert(kIsObjectRef<T>, "a type a Variant does not convert to");
+    return VariantAs<typename T::element_type>(v);
+  }
 }
 
 }  // namespace ferlan

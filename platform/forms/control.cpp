@@ -19,16 +19,6 @@ const PropertyTable<ferlan::Control>& ControlProperties() {
   return table;
 }
 
-void Control::SetWidth(Single v) {
-  if (v < 0) throw PlatformError::InvalidCall("negative Width");
-  width_ = v;
-}
-
-void Control::SetHeight(Single v) {
-  if (v < 0) throw PlatformError::InvalidCall("negative Height");
-  height_ = v;
-}
-
 Variant Control::GetProperty(std::string_view name) {
   return ControlProperties().Get(*this, name);
 }

@@ -41,14 +41,12 @@ PictureBox::PictureBox(std::unique_ptr<Canvas> canvas) : canvas_(std::move(canva
 }
 
 void PictureBox::SetWidth(Single v) {
-  if (v < 0) throw PlatformError::InvalidCall("negative Width");
-  width_ = v;
+  Placed::SetWidth(v);
   ResizeCanvas();
 }
 
 void PictureBox::SetHeight(Single v) {
-  if (v < 0) throw PlatformError::InvalidCall("negative Height");
-  height_ = v;
+  Placed::SetHeight(v);
   ResizeCanvas();
 }
 
@@ -60,9 +58,9 @@ void PictureBox::SetBorderStyle(Integer style) {
 
 Single PictureBox::Border() const { return border_style_ == 1 ? kFixedSingleBorder : 0; }
 
-Single PictureBox::ScaleWidth() const { return std::max<Single>(0, width_ - Border()); }
+Single PictureBox::ScaleWidth() const { return std::max<Single>(0, Width() - Border()); }
 
-Single PictureBox::ScaleHeight() const { return std::max<Single>(0, height_ - Border()); }
+Single PictureBox::ScaleHeight() const { return std::max<Single>(0, Height() - Border()); }
 
 void PictureBox::ResizeCanvas() { canvas_->Resize(ScaleWidth(), ScaleHeight()); }
 

@@ -10,10 +10,11 @@
 #include "ferlan/host.hpp"
 #include "forms/canvas.hpp"
 #include "forms/font.hpp"
+#include "forms/placed.hpp"
 
 namespace ferlan::forms {
 
-class PictureBox final : public ferlan::PictureBox {
+class PictureBox final : public Placed<ferlan::PictureBox> {
  public:
   // Width - ScaleWidth (and Height - ScaleHeight) of a control with a fixed
   // single border: two pixels each side.
@@ -25,18 +26,9 @@ class PictureBox final : public ferlan::PictureBox {
   // size of the inner area.
   explicit PictureBox(std::unique_ptr<Canvas> canvas);
 
-  // Control.
-  Single Left() const override { return left_; }
-  void SetLeft(Single v) override { left_ = v; }
-  Single Top() const override { return top_; }
-  void SetTop(Single v) override { top_ = v; }
-  Single Width() const override { return width_; }
-  // Errors: 5 for a negative size. The canvas follows the inner size.
+  // Control: the canvas follows the inner size.
   void SetWidth(Single v) override;
-  Single Height() const override { return height_; }
   void SetHeight(Single v) override;
-  Boolean Visible() const override { return visible_; }
-  void SetVisible(Boolean v) override { visible_ = v; }
 
   // 0 none, 1 fixed single; errors: 5 for any other style.
   Integer BorderStyle() const { return border_style_; }
@@ -82,11 +74,6 @@ class PictureBox final : public ferlan::PictureBox {
 
   std::unique_ptr<Canvas> canvas_;
   std::shared_ptr<forms::Font> font_ = std::make_shared<forms::Font>();
-  Single left_ = 0;
-  Single top_ = 0;
-  Single width_ = 0;
-  Single height_ = 0;
-  Boolean visible_ = true;
   Integer border_style_ = 0;
   Single current_x_ = 0;
   Single current_y_ = 0;

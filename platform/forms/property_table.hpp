@@ -13,9 +13,6 @@
 
 namespace ferlan::forms {
 
-// True when `a` and `b` are equal, ASCII letters compared without case.
-bool SameName(std::string_view a, std::string_view b);
-
 template <class T>
 class PropertyTable {
  public:

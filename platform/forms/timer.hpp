@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 #include "ferlan/host.hpp"
 
@@ -27,6 +28,9 @@ class Timer final : public ferlan::Timer {
   // Enabled, with an interval, that interval elapsed since the last start or
   // tick, and not inside its own tick.
   bool Due(std::int64_t now) const;
+  // When it will next be due, for a loop that skips idle time; nothing when
+  // stopped or inside its own tick.
+  std::optional<std::int64_t> NextDue() const;
   // Runs the tick and counts the next interval from `now`. A tick that calls
   // DoEvents doesn't see its own timer fire again meanwhile.
   void Fire(std::int64_t now);

@@ -1,44 +1,78 @@
 #include "headless/event_loop.hpp"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace ferlan::headless {
 
 EventLoop::EventLoop(VirtualClock& clock, KeyScript& script) : clock_(clock), script_(script) {}
 
 void EventLoop::DoEvents() {
-  clock_.Advance(1);
-  if (DeliverOne()) {
+  ++calls_;
+  DropFinishedWaits();
+  const std::int64_t step = Step();
+  last_idle_ = false;  // a handler's own DoEvents does not skip
+  bool acted = false;
+  clock_.Advance(step);
+  if (DeliverOne(step, acted)) {
     empty_ms_ = 0;
-  } else if (++empty_ms_ >= kStarvationMs && !starved_) {
+  } else if ((empty_ms_ += step) >= kStarvationMs && !starved_) {
     starved_ = true;
+    acted = true;
     if (write_abandon_) write_abandon_(true);
   }
-  FireDueTimers();
+  const bool fired = FireDueTimers();
+  last_idle_ = !acted && !fired;
 }
 
-bool EventLoop::DeliverOne() {
+std::int64_t EventLoop::Step() {
+  if (!caller_idle_ || !last_idle_ || !caller_idle_()) return 1;
+  std::int64_t limit = INT64_MAX;
+  if (!script_.Empty()) {
+    if (script_.Front().kind != KeyItem::Kind::Wait) return 1;
+    limit = script_.Front().wait_ms;
+  } else if (!starved_) {
+    limit = kStarvationMs - empty_ms_;
+  }
+  const std::int64_t now = clock_.Now();
+  for (const auto& weak : timers_) {
+    if (auto timer = weak.lock()) {
+      if (auto due = timer->NextDue()) limit = std::min(limit, *due - now);
+    }
+  }
+  // With no deadline ahead, time goes on as the caller asks for it.
+  return limit == INT64_MAX ? 1 : std::max<std::int64_t>(1, limit);
+}
+
+void EventLoop::DropFinishedWaits() {
   // A finished wait gives way to the next item within the same millisecond.
   while (!script_.Empty() && script_.Front().kind == KeyItem::Kind::Wait &&
          script_.Front().wait_ms == 0) {
     script_.Pop();
   }
+}
+
+bool EventLoop::DeliverOne(std::int64_t ms, bool& acted) {
+  DropFinishedWaits();
   if (script_.Empty()) return false;
   // Copied out: a handler may queue more keys and so move the front.
   KeyItem item = script_.Front();
   switch (item.kind) {
     case KeyItem::Kind::Wait:
-      // This millisecond passes with no key.
-      if (--script_.Front().wait_ms == 0) script_.Pop();
+      // These milliseconds pass with no key; Step never goes past the wait.
+      script_.Front().wait_ms -= static_cast<Long>(ms);
+      if (script_.Front().wait_ms <= 0) script_.Pop();
       return true;
     case KeyItem::Kind::Abandon:
       script_.Pop();
+      acted = true;
       if (write_abandon_) write_abandon_(true);
       return true;
     case KeyItem::Kind::Key:
       break;
   }
   script_.Pop();
+  acted = true;
   if (!form_) return true;
   // Both events of one keystroke come inside the same DoEvents, as on the
   // platform; a handler that zeroes KeyCode does not stop the KeyPress.
@@ -60,27 +94,33 @@ TimerRef EventLoop::CreateTimer(std::function<void()> on_tick) {
   return timer;
 }
 
-void EventLoop::FireDueTimers() {
+bool EventLoop::FireDueTimers() {
   // Dropped timers leave the list only outside any tick, so that the walk
   // of an outer DoEvents keeps its place when a tick runs DoEvents.
   if (firing_depth_ == 0) std::erase_if(timers_, [](const auto& t) { return t.expired(); });
   ++firing_depth_;
+  bool fired = false;
   try {
     // By index: a tick may make a timer, which comes last.
     for (std::size_t i = 0; i < timers_.size(); ++i) {
       std::shared_ptr<forms::Timer> timer = timers_[i].lock();
       const std::int64_t now = clock_.Now();
-      if (timer && timer->Due(now)) timer->Fire(now);
+      if (timer && timer->Due(now)) {
+        fired = true;
+        timer->Fire(now);
+      }
     }
   } catch (...) {
     --firing_depth_;
     throw;
   }
   --firing_depth_;
+  return fired;
 }
 
 void EventLoop::BeginCall() {
   empty_ms_ = 0;
+  last_idle_ = false;
   if (starved_ && write_abandon_) write_abandon_(false);
   starved_ = false;
 }

@@ -1,7 +1,13 @@
 // The headless event loop: deterministic by construction. Each DoEvents
-// moves the virtual clock 1 ms, delivers at most one item of the key script
-// to the form, then fires the timers that are due, in the order they were
+// moves the virtual clock, delivers at most one item of the key script to
+// the form, then fires the timers that are due, in the order they were
 // made. Nothing waits on the real world.
+//
+// The clock moves 1 ms a DoEvents, except over idle time once the caller
+// allows it: while a {wait:N} runs or the script is empty, and the last
+// DoEvents did nothing either, it moves at once to the next deadline (the
+// next timer, the end of the wait, starvation). Timers fire at the same
+// virtual times and as often; a long wait costs a few calls, not N.
 //
 // Fakes: the keyboard (the key script) and the passing of time. When the
 // script has stayed empty for kStarvationMs while DoEvents keeps being
@@ -33,6 +39,10 @@ class EventLoop final : public forms::EventLoop {
   void SetForm(std::shared_ptr<forms::Form> form) { form_ = std::move(form); }
   // How Env.Abandon is written, for {abandon} and for starvation.
   void SetAbandonWriter(std::function<void(Boolean)> write) { write_abandon_ = std::move(write); }
+  // Lets idle time pass in one step whenever `caller_idle` says the caller
+  // does nothing of its own between two DoEvents (no virtual key waits to be
+  // read). Without it the clock moves 1 ms a DoEvents.
+  void SetIdleSkipping(std::function<bool()> caller_idle) { caller_idle_ = std::move(caller_idle); }
 
   void DoEvents() override;
   TimerRef CreateTimer(std::function<void()> on_tick) override;
@@ -42,19 +52,31 @@ class EventLoop final : public forms::EventLoop {
   void BeginCall();
   // The script ran dry for kStarvationMs since the last BeginCall.
   bool Starved() const { return starved_; }
+  // How many DoEvents have run: the real cost of virtual time.
+  std::int64_t Calls() const { return calls_; }
 
  private:
-  // Delivers the front item; gives false when the script is empty.
-  bool DeliverOne();
-  void FireDueTimers();
+  // The milliseconds this DoEvents lets pass: 1, or up to the next deadline
+  // over idle time.
+  std::int64_t Step();
+  // Delivers the front item, `ms` of a wait; gives false when the script is
+  // empty. Sets `acted` when a key or an {abandon} went out.
+  bool DeliverOne(std::int64_t ms, bool& acted);
+  void DropFinishedWaits();
+  // Gives whether any timer fired.
+  bool FireDueTimers();
 
   VirtualClock& clock_;
   KeyScript& script_;
   std::shared_ptr<forms::Form> form_;
   std::function<void(Boolean)> write_abandon_;
+  std::function<bool()> caller_idle_;
   std::vector<std::weak_ptr<forms::Timer>> timers_;
   std::int64_t empty_ms_ = 0;
+  std::int64_t calls_ = 0;
   bool starved_ = false;
+  // The last DoEvents delivered no key and fired no timer.
+  bool last_idle_ = false;
   int firing_depth_ = 0;
 };
 

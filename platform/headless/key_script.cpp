@@ -2,7 +2,6 @@
 
 #include <charconv>
 
-#include "forms/property_table.hpp"
 #include "headless/us_keyboard.hpp"
 
 namespace ferlan::headless {
@@ -71,7 +70,7 @@ class Parser {
   KeyItem Braced(std::size_t at, const String& body) const {
     if (body.empty()) Fail(at, "empty {}");
     const std::string word = ToUtf8(body);
-    if (forms::SameName(word, "abandon")) {
+    if (SameName(word, "abandon")) {
       KeyItem item;
       item.kind = KeyItem::Kind::Abandon;
       return item;
@@ -112,9 +111,9 @@ class Parser {
       if (plus == StringView::npos || plus + 1 == rest.size()) break;
       const std::string prefix = ToUtf8(rest.substr(0, plus));
       Integer bit = 0;
-      if (forms::SameName(prefix, "Shift")) bit = kShiftMask;
-      if (forms::SameName(prefix, "Ctrl")) bit = kCtrlMask;
-      if (forms::SameName(prefix, "Alt")) bit = kAltMask;
+      if (SameName(prefix, "Shift")) bit = kShiftMask;
+      if (SameName(prefix, "Ctrl")) bit = kCtrlMask;
+      if (SameName(prefix, "Alt")) bit = kAltMask;
       if (bit == 0) Fail(at, "unknown prefix \"" + prefix + "+\" (Shift+, Ctrl+, Alt+)");
       if (mask & bit) Fail(at, "\"" + prefix + "+\" twice");
       mask = static_cast<Integer>(mask | bit);
@@ -133,7 +132,7 @@ class Parser {
   }
 
   static bool StartsWith(const std::string& s, std::string_view prefix) {
-    return s.size() >= prefix.size() && forms::SameName(s.substr(0, prefix.size()), prefix);
+    return s.size() >= prefix.size() && SameName(s.substr(0, prefix.size()), prefix);
   }
 
   template <class T>

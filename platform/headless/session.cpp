@@ -1,10 +1,16 @@
 #include "headless/session.hpp"
 
+#include "ferlan/assert.hpp"
 #include "forms/control.hpp"
 #include "headless/key_interception.hpp"
 #include "kit/env.hpp"
 
 namespace ferlan::headless {
+
+namespace {
+// The Session living on this thread: its apartment is the current one.
+thread_local const Session* session_of_thread = nullptr;
+}  // namespace
 
 Session::Session(forms::CanvasFactory canvas_factory)
     : canvas_factory_(std::move(canvas_factory)),
@@ -12,6 +18,7 @@ Session::Session(forms::CanvasFactory canvas_factory)
       env_(std::make_shared<kit::EnvState>()),
       records_(std::make_shared<kit::Records>()),
       global_(std::make_shared<forms::Global>(loop_, forms::Screen(kScreenWidth, kScreenHeight))) {
+  FERLAN_ASSERT(session_of_thread == nullptr);  // one Session a thread at a time
   if (!canvas_factory_) canvas_factory_ = FixedCanvasFactory();
 
   form_ = std::make_shared<forms::Form>(kFormHandle, kScreenWidth, kScreenHeight);
@@ -64,9 +71,12 @@ Session::Session(forms::CanvasFactory canvas_factory)
   registry.Register("Dessin", [recorder = recorder_] { return recorder; });
   registry.Register("Global", [global = global_] { return global; });
   apartment_.emplace(std::move(registry));
+  session_of_thread = this;  // last: a constructor that throws leaves none
+  loop_.SetIdleSkipping([this] { return apartment_ && !apartment_->VirtualKeysPending(); });
 }
 
 Session::~Session() {
+  session_of_thread = nullptr;
   apartment_.reset();
   // The form's handlers call into the component, which has ended.
   form_->on_key_down = nullptr;

@@ -3,7 +3,6 @@
 #include <array>
 #include <string>
 
-#include "forms/property_table.hpp"
 
 namespace ferlan::headless {
 
@@ -149,7 +148,7 @@ KeyItem TypeCharacter(char16_t c, Integer mask) {
 
 std::optional<KeyItem> PressNamedKey(std::string_view name, Integer mask) {
   for (const NamedKey& k : NamedKeys()) {
-    if (!forms::SameName(k.name, name)) continue;
+    if (!SameName(k.name, name)) continue;
     std::optional<Integer> press;
     if (mask & kAltMask) {
       press = std::nullopt;

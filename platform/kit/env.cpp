@@ -65,14 +65,6 @@ const std::array kMembers = {
     Member{"FenetreActive", &EnvState::active_window},
 };
 
-char Lower(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
-
-// Late-bound names are matched without regard to case, as the platform does.
-bool SameName(std::string_view a, std::string_view b) {
-  return a.size() == b.size() &&
-         std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Lower(x) == Lower(y); });
-}
-
 const Member& Find(std::string_view name) {
   for (const Member& m : kMembers) {
     if (SameName(m.name, name)) return m;
@@ -104,22 +96,7 @@ void Env::SetProperty(std::string_view name, const Variant& value) {
   std::visit(
       [&s, &value](auto field) {
         auto& target = s.*field;
-        using T = std::decay_t<decltype(target)>;
-        if constexpr (std::is_same_v<T, Integer>) {
-          target = VariantToInteger(value);
-        } else if constexpr (std::is_same_v<T, Long>) {
-          target = VariantToLong(value);
-        } else if constexpr (std::is_same_v<T, Single>) {
-          target = VariantToSingle(value);
-        } else if constexpr (std::is_same_v<T, Boolean>) {
-          target = VariantToBoolean(value);
-        } else if constexpr (std::is_same_v<T, String>) {
-          target = VariantToString(value);
-        } else if constexpr (std::is_same_v<T, FormRef>) {
-          target = VariantAs<Form>(value);
-        } else {
-          target = VariantAs<PictureBox>(value);
-        }
+        target = VariantTo<std::decay_t<decltype(target)>>(value);
       },
       Find(name).field);
 }

@@ -13,22 +13,10 @@ void Pile::Depile(Variant& V) {
   V = std::visit(
       [&top](const auto& target) -> Variant {
         using T = std::decay_t<decltype(target)>;
-        if constexpr (std::is_same_v<T, Integer>) {
-          return VariantToInteger(top);
-        } else if constexpr (std::is_same_v<T, Long>) {
-          return VariantToLong(top);
-        } else if constexpr (std::is_same_v<T, Single>) {
-          return VariantToSingle(top);
-        } else if constexpr (std::is_same_v<T, Double>) {
-          return VariantToDouble(top);
-        } else if constexpr (std::is_same_v<T, Boolean>) {
-          return VariantToBoolean(top);
-        } else if constexpr (std::is_same_v<T, String>) {
-          return VariantToString(top);
-        } else if constexpr (std::is_same_v<T, ObjectRef>) {
-          return VariantToObject(top);
+        if constexpr (std::is_same_v<T, Empty>) {
+          return top;  // an Empty variable takes the value as it is
         } else {
-          return top;
+          return VariantTo<T>(top);
         }
       },
       V);

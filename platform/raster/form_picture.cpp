@@ -25,6 +25,12 @@ constexpr Long kToolbarFace = 0x00E8E8E8;
 constexpr Long kShadow = 0x00A0A0A0;
 constexpr Long kDarkShadow = 0x00696969;
 
+void CheckCairo(cairo_status_t status) {
+  if (status != CAIRO_STATUS_SUCCESS) {
+    throw PlatformError::Host("cairo", cairo_status_to_string(status));
+  }
+}
+
 void SetColour(cairo_t* cr, Long colour) {
   const std::uint32_t w = WordOfColour(colour);
   cairo_set_source_rgb(cr, ((w >> 16) & 0xFF) / 255.0, ((w >> 8) & 0xFF) / 255.0,
@@ -151,6 +157,10 @@ std::shared_ptr<forms::Bitmap> ComposeForm(Form& form, PictureBox* surface) {
                                                               &cairo_destroy);
   cairo_surface_t* image = owned_image.get();
   cairo_t* cr = owned_cr.get();
+  // A form too large for an image fails here, before anything is drawn on a
+  // context in error.
+  CheckCairo(cairo_surface_status(image));
+  CheckCairo(cairo_status(cr));
   cairo_set_antialias(cr, CAIRO_ANTIALIAS_NONE);
   Fill(cr, 0, 0, width, height, FormBackColour(form));
 
@@ -171,10 +181,7 @@ std::shared_ptr<forms::Bitmap> ComposeForm(Form& form, PictureBox* surface) {
   }
 
   cairo_surface_flush(image);
-  const cairo_status_t status = cairo_status(cr);
-  if (status != CAIRO_STATUS_SUCCESS) {
-    throw PlatformError::Host("cairo", cairo_status_to_string(status));
-  }
+  CheckCairo(cairo_status(cr));
   return BitmapOfWords(width, height, cairo_image_surface_get_data(image),
                        cairo_image_surface_get_stride(image));
 }

@@ -7,21 +7,25 @@
 
 namespace ferlan::raster {
 
-namespace {
-// Far beyond any image Cairo makes (32767 pixels a side), so that Cairo
-// reports the size, and near enough that the conversion to int is defined.
-constexpr double kMaxPixels = 1 << 24;
-}  // namespace
+int ClampedPixel(double pixels) {
+  if (std::isnan(pixels)) return 0;
+  return static_cast<int>(std::clamp(pixels, -double{kMaxPixels}, double{kMaxPixels}));
+}
 
-int PixelOfTwips(double twips) {
+double PixelPosition(double twips) {
   // The small allowance keeps a Single such as 104.99999 in pixel 7.
-  return static_cast<int>(
-      std::clamp(std::floor(twips / kTwipsPerPixel + 1e-4), -kMaxPixels, kMaxPixels));
+  return std::floor(twips / kTwipsPerPixel + 1e-4);
+}
+
+int PixelOfTwips(double twips) { return ClampedPixel(PixelPosition(twips)); }
+
+int NearestPixelOfTwips(double twips) {
+  return ClampedPixel(std::floor(twips / kTwipsPerPixel + 0.5));
 }
 
 int PixelsOfSize(double twips) {
   if (!(twips > 0)) return 0;
-  return static_cast<int>(std::min(std::ceil(twips / kTwipsPerPixel - 1e-4), kMaxPixels));
+  return ClampedPixel(std::ceil(twips / kTwipsPerPixel - 1e-4));
 }
 
 std::vector<std::uint32_t> WordsOf(const forms::Bitmap& bitmap) {

@@ -13,10 +13,23 @@ namespace ferlan::raster {
 
 inline constexpr int kTwipsPerPixel = 15;
 
+// Every twips-to-pixel conversion of the raster surface and of the window
+// ends here: a position or a size in pixels, as a double, made an int that
+// any sum of a few of them and Cairo's fixed-point coordinates can hold.
+// Far values stop at +-kMaxPixels, far beyond any image (32767 pixels a
+// side); not a number is 0.
+inline constexpr int kMaxPixels = 1 << 22;
+int ClampedPixel(double pixels);
+
 // The pixel that holds a point given in twips.
 int PixelOfTwips(double twips);
+// The pixel nearest to a point in twips (glyph origins, baselines).
+int NearestPixelOfTwips(double twips);
 // The pixels a size in twips covers: every pixel it reaches into.
 int PixelsOfSize(double twips);
+// Where a point in twips falls, in pixels, whole but not clamped: for
+// clipping a line before its ends are made ints.
+double PixelPosition(double twips);
 
 constexpr std::uint32_t WordOfColour(Long colour) {
   auto c = static_cast<std::uint32_t>(colour);

@@ -44,6 +44,40 @@ std::uint32_t Blend(std::uint32_t dst, std::uint32_t src, unsigned alpha) {
   return out;
 }
 
+// Cuts the segment between two whole pixels (x1, y1, x2, y2) to the box;
+// false when nothing of it lies inside or an end is not a number.
+bool ClipToBox(double (&ends)[4], double left, double top, double right, double bottom) {
+  for (double v : ends) {
+    if (std::isnan(v)) return false;
+  }
+  const double dx = ends[2] - ends[0], dy = ends[3] - ends[1];
+  double from = 0, to = 1;
+  const double p[4] = {-dx, dx, -dy, dy};
+  const double q[4] = {ends[0] - left, right - ends[0], ends[1] - top, bottom - ends[1]};
+  for (int i = 0; i < 4; ++i) {
+    if (p[i] == 0) {
+      if (q[i] < 0) return false;
+      continue;
+    }
+    const double t = q[i] / p[i];
+    if (!std::isfinite(t)) return false;  // an end at infinity
+    if (p[i] < 0) {
+      from = std::max(from, t);
+    } else {
+      to = std::min(to, t);
+    }
+  }
+  if (from > to) return false;
+  const double x1 = ends[0], y1 = ends[1];
+  // Whole pixels already: the ends inside stay as they are, a cut one goes
+  // to the nearest pixel on the line.
+  ends[0] = std::round(x1 + from * dx);
+  ends[1] = std::round(y1 + from * dy);
+  ends[2] = std::round(x1 + to * dx);
+  ends[3] = std::round(y1 + to * dy);
+  return true;
+}
+
 }  // namespace
 
 struct RasterCanvas::Surface {
@@ -155,12 +189,16 @@ void RasterCanvas::Box(Single x1, Single y1, Single x2, Single y2, Long colour) 
 void RasterCanvas::Line(Single x1, Single y1, Single x2, Single y2, Long colour) {
   std::uint32_t pixel = WordOfColour(colour);
   Surface& s = *surface_;
-  int px1 = PixelOfTwips(x1), py1 = PixelOfTwips(y1);
-  int px2 = PixelOfTwips(x2), py2 = PixelOfTwips(y2);
-  if (px1 == px2 || py1 == py2) {
+  double ends[4] = {PixelPosition(x1), PixelPosition(y1), PixelPosition(x2), PixelPosition(y2)};
+  if (ends[0] == ends[2] || ends[1] == ends[3]) {
     s.FillCorners(x1, y1, x2, y2, pixel);  // the rules of tables and columns: exact
     return;
   }
+  // A slanted line reaching far off the surface keeps its slope: only its
+  // part near the surface is drawn.
+  if (!ClipToBox(ends, -2.0, -2.0, s.width + 1.0, s.height + 1.0)) return;
+  const int px1 = ClampedPixel(ends[0]), py1 = ClampedPixel(ends[1]);
+  const int px2 = ClampedPixel(ends[2]), py2 = ClampedPixel(ends[3]);
   SetColour(s.cr, pixel);
   cairo_move_to(s.cr, px1 + 0.5, py1 + 0.5);
   cairo_line_to(s.cr, px2 + 0.5, py2 + 0.5);
@@ -175,14 +213,13 @@ void RasterCanvas::Text(Single x, Single y, StringView text, const forms::FontSp
   Surface& s = *surface_;
   FontInstance& face = GlyphCache::ForThisThread().Instance(font.size, font.bold);
   const std::uint32_t pixel = WordOfColour(colour);
-  const int baseline =
-      static_cast<int>(std::floor((y + face.AscentTwips()) / kTwipsPerPixel + 0.5));
+  const int baseline = NearestPixelOfTwips(y + face.AscentTwips());
   double pen = static_cast<double>(x);  // twips: the same sums as TextWidth
   int min_x = s.width, max_x = -1, min_y = s.height, max_y = -1;
   cairo_surface_flush(s.image);
   ForEachCodePoint(text, [&](char32_t c) {
     const GlyphImage& glyph = face.Glyph(c);
-    const int origin = static_cast<int>(std::floor(pen / kTwipsPerPixel + 0.5));
+    const int origin = NearestPixelOfTwips(pen);
     pen += face.AdvanceTwips(c);
     const int gx = origin + glyph.left;
     const int gy = baseline - glyph.top;

@@ -2,6 +2,7 @@
 #include <memory>
 
 #include "component/module_state.hpp"
+#include "ferlan/assert.hpp"
 
 namespace ferlan {
 
@@ -19,7 +20,13 @@ Apartment::Apartment(ClassRegistry registry)
   current_state = state_.get();
 }
 
-Apartment::~Apartment() { current_state = previous_; }
+Apartment::~Apartment() {
+  // Apartments nest: the one that ends is the innermost, current one.
+  FERLAN_ASSERT(current_state == state_.get());
+  current_state = previous_;
+}
+
+bool Apartment::VirtualKeysPending() const { return state_->ClavierTampon != u"[]"; }
 
 ModuleState& State() {
   if (current_state) return *current_state;

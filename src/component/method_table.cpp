@@ -15,19 +15,11 @@ namespace {
 
 using Defaults = std::vector<Variant>;
 
+// A text parameter takes a text or Empty only; any other parameter converts
+// as a typed variable does.
 template <class V>
 V FromVariant(const Variant& v) {
-  if constexpr (std::is_same_v<V, Integer>) {
-    return VariantToInteger(v);
-  } else if constexpr (std::is_same_v<V, Long>) {
-    return VariantToLong(v);
-  } else if constexpr (std::is_same_v<V, Single>) {
-    return VariantToSingle(v);
-  } else if constexpr (std::is_same_v<V, Double>) {
-    return VariantToDouble(v);
-  } else if constexpr (std::is_same_v<V, Boolean>) {
-    return VariantToBoolean(v);
-  } else if constexpr (std::is_same_v<V, String>) {
+  if constexpr (std::is_same_v<V, String>) {
     if (std::holds_alternative<Empty>(v)) return {};
     if (const auto* s = std::get_if<String>(&v)) return *s;
     throw PlatformError::TypeMismatch("a text was expected");
@@ -39,8 +31,7 @@ V FromVariant(const Variant& v) {
     }
     return VariantAs<Picture>(v);
   } else {
-    static_assert(std::is_same_v<V, PictureBoxRef>, "parameter type without a conversion");
-    return VariantAs<PictureBox>(v);
+    return VariantTo<V>(v);
   }
 }
 

@@ -9,6 +9,7 @@
 #include "editor/edit_state.hpp"
 #include "editor/field_kinds.hpp"
 #include "editor/key_commands.hpp"
+#include "ferlan/assert.hpp"
 #include "ferlan/kysaisie.hpp"
 
 namespace ferlan {
@@ -79,7 +80,7 @@ void SetUp(EditState& e) {
   }
 }
 
-// Pass step 1: keep the caret's column inside the window.
+// Keeps the caret's column inside the window before each key.
 void Scroll(EditState& e) {
   auto decal_at_right_edge = [&] { return SubInt(SubInt(AddInt(e.C, e.P), e.CMax), 1); };
   const Integer caret_column = SubInt(SubInt(AddInt(e.C, e.P), 1), e.Decal);
@@ -95,7 +96,7 @@ void Scroll(EditState& e) {
   }
 }
 
-// Pass step 2: "Curseur nnn" centred on the line above the last, on the main
+// Shows "Curseur nnn" centred on the line above the last, on the main
 // surface, never erased first.
 void ShowStatus(EditState& e) {
   KySaisie ky;
@@ -104,7 +105,7 @@ void ShowStatus(EditState& e) {
   ky.AfficheCentre(line, u"N", u"Curseur " + e.st.Conv->EntierTexte(e.P, 3), false, &col_fin);
 }
 
-// Pass step 3: erase the zone and draw the visible part of the text.
+// Erases the zone and draws the part of the text the window shows.
 void DrawField(EditState& e) {
   KySaisie ky;
   OnFieldSurface(e, [&] {
@@ -150,6 +151,9 @@ void KySaisie::Modif(Single LT, Integer C, Single CT, Integer LCM, Single LzT, S
               CaretX,  CaretY};
   SetUp(e);
   while (!e.Fin) {
+    // Between commands the text fills the field exactly and the caret is in it.
+    FERLAN_ASSERT(Len(e.CH) == e.LC);
+    FERLAN_ASSERT(e.P >= 1 && e.P <= e.LC);
     Scroll(e);
     ShowStatus(e);
     if (!IsHidden(e)) DrawField(e);

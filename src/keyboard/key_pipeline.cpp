@@ -41,30 +41,31 @@ void KySaisie::IntercepteClavierKY(Boolean I) {
 
 void KySaisie::GestKeyDown(Integer& KeyCode, Integer Shift) {
   ModuleState& st = State();
-  // 1. The Shift key alone: nothing stored, Env.ToucheVirtuelle not written.
+  // The Shift key alone: nothing stored, Env.ToucheVirtuelle not written.
   if (KeyCode == kShiftKey && Shift == 1) {
     st.ToucheTraitee = false;
     return;
   }
-  if (IsControlKeyAlways(KeyCode)) {  // 2.
+  // A control key, whatever the modifiers: code Shift x 1000 + KeyCode.
+  if (IsControlKeyAlways(KeyCode)) {
     ModifClavier(AddInt(MulInt(Shift, 1000), KeyCode), false);
     st.ToucheTraitee = true;
-  } else if (IsChordLetter(KeyCode)) {  // 3.
+  } else if (IsChordLetter(KeyCode)) {  // a command with Ctrl alone or Alt alone
     if (Shift == 2 || Shift == 4) {
       ModifClavier(AddInt(MulInt(Shift, 1000), KeyCode), false);
       st.ToucheTraitee = true;
     } else {
       st.ToucheTraitee = false;
     }
-  } else if (KeyCode == 0) {  // 4.
+  } else if (KeyCode == 0) {  // a key a handler already took: its character is dropped
     st.ToucheTraitee = true;
-  } else if (Shift != 0) {  // 5.
+  } else if (Shift != 0) {  // any other chord: its character goes through
     st.ToucheTraitee = false;
-  } else {  // 6. Caps Lock alone is swallowed.
+  } else {  // a plain key types its character; Caps Lock alone is swallowed
     st.ToucheTraitee = KeyCode == kCapsLock;
   }
-  if (st.ToucheTraitee) KeyCode = 0;  // 7.
-  st.Env->SetToucheVirtuelle(false);  // 8.
+  if (st.ToucheTraitee) KeyCode = 0;  // the form does not see a key taken here
+  st.Env->SetToucheVirtuelle(false);  // a real key came
 }
 
 void KySaisie::GestKeyPress(Integer& KeyAscii) {
@@ -85,37 +86,37 @@ void KySaisie::ModifClavier(Integer KeyAscii, Boolean Caractère) {
 
 void KySaisie::ScanClavier(String& R, Boolean& A) {
   ModuleState& st = State();
-  st.Global->DoEvents();                 // 1.
-  if (st.Env->Abandon()) return;         // 2.
-  if (st.ClavierTampon != u"[]") {       // 3. one pair of the virtual keyboard
+  st.Global->DoEvents();  // lets the host deliver keys and run timers
+  if (st.Env->Abandon()) return;
+  if (st.ClavierTampon != u"[]") {  // one pair of the virtual keyboard a poll
     const String key = st.Chaines->Suivant(st.ClavierTampon);
     const Integer code = Asc(key);
     const String kind = st.Chaines->Suivant(st.ClavierTampon);
     ModifClavier(code, kind == u"True");
     st.Env->SetToucheVirtuelle(true);
   }
-  if (st.ToucheEnAttente == 0) return;   // 4.
-  if (st.ToucheEnAttente == kRepeatKey) {  // 5. the caller gets its own R back
+  if (st.ToucheEnAttente == 0) return;  // no key yet
+  if (st.ToucheEnAttente == kRepeatKey) {  // the caller gets its own R back
     A = true;
     st.ToucheEnAttente = 0;
     return;
   }
-  if (st.EstCaractere) {  // 6. a character above 255 waits in the slot
+  if (st.EstCaractere) {  // a character above 255 waits in the slot
     A = st.ToucheEnAttente >= 1 && st.ToucheEnAttente <= 255;
     if (A) {
       R = Chr(st.ToucheEnAttente);
       st.ToucheEnAttente = 0;
     }
-  } else {  // 7. a control key stays in the slot for Saisie
+  } else {  // a control key stays in the slot for Saisie
     A = true;
   }
 }
 
 void KySaisie::Saisie(String& R, Integer* Code) {
   ModuleState& st = State();
-  st.ToucheEnAttente = 0;  // 1. a key that came before the wait is lost
+  st.ToucheEnAttente = 0;  // a key that came before the wait is lost
   Boolean a = false;
-  while (!a) {  // 2.
+  while (!a) {  // polls until a key or Abandon
     if (st.Env->Abandon()) {
       a = true;
       st.ToucheEnAttente = 0;
@@ -123,7 +124,7 @@ void KySaisie::Saisie(String& R, Integer* Code) {
       ScanClavier(R, a);
     }
   }
-  if (Code) *Code = st.ToucheEnAttente;  // 3. the slot keeps a control key
+  if (Code) *Code = st.ToucheEnAttente;  // the slot keeps a control key
 }
 
 void KySaisie::VideClavierVirtuel() { State().ClavierTampon = u"[]"; }

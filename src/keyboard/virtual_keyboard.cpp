@@ -18,16 +18,17 @@ void AddPair(ModuleState& st, const String& key, const String& kind) {
 
 void KySaisie::ClavierVirtuel(const String& C, Integer T, Boolean VideAvant) {
   ModuleState& st = State();
-  VideClavierVirtuel();  // 1. one call replaces what an earlier one left
-  if (VideAvant) AddPair(st, Chr(st.Env->ToucheVide()), u"False");  // 2.
-  if (!C.empty() && C.front() == u'\0') {  // 3. a key number
+  VideClavierVirtuel();  // one call replaces what an earlier one left
+  // The blanking key first, so that the text replaces the field.
+  if (VideAvant) AddPair(st, Chr(st.Env->ToucheVide()), u"False");
+  if (!C.empty() && C.front() == u'\0') {  // a NUL, then the number of one control key
     const Long key = CLng(Val(Mid(C, 2)));
     AddPair(st, Chr(key), u"False");
     return;
   }
-  for (char16_t c : C) AddPair(st, String(1, c), u"True");  // 4.
-  AddPair(st, Chr(kHomeKey), u"False");  // 5. back to the start of the field
-  if (T != 0) AddPair(st, Chr(T), u"False");  // 6.
+  for (char16_t c : C) AddPair(st, String(1, c), u"True");  // each character typed
+  AddPair(st, Chr(kHomeKey), u"False");  // back to the start of the field
+  if (T != 0) AddPair(st, Chr(T), u"False");  // then the key that ends the entry
 }
 
 void KySaisie::ClavierVirtuelToucheFonction(Integer F) {

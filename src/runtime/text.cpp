@@ -1,11 +1,10 @@
 // Text operations with 1-based positions, the numeric value of a text, and
 // UTF-8 at the edges.
 #include <algorithm>
-#include <cctype>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
+#include <system_error>
 
 #include "ferlan/runtime.hpp"
 
@@ -13,6 +12,36 @@ namespace ferlan {
 
 namespace {
 bool IsBlank(char16_t c) { return c == u' '; }
+
+// Whether a number written "[-]digits[.digits][e[+-]digits]" that from_chars
+// finds out of range is too large (rather than too small) for a Double: its
+// first significant digit stands at a power of ten above zero.
+bool TooLargeForDouble(std::string_view number) {
+  std::size_t i = number[0] == '-' ? 1 : 0;
+  long long position = 0;  // power of ten of the first significant digit, plus one
+  bool seen = false, after_point = false;
+  for (; i < number.size() && number[i] != 'e'; ++i) {
+    if (number[i] == '.') {
+      after_point = true;
+    } else if (number[i] != '0' || seen) {
+      if (!seen && after_point) {
+        seen = true;  // position already counts the zeros after the point
+      } else if (!after_point) {
+        seen = true;
+        ++position;
+      }
+    } else if (after_point) {
+      --position;  // a leading zero after the point
+    }
+  }
+  long long exponent = 0;
+  if (i < number.size()) {
+    const char* first = number.data() + i + 1 + (number[i + 1] == '+' ? 1 : 0);
+    const auto [end, error] = std::from_chars(first, number.data() + number.size(), exponent);
+    if (error == std::errc::result_out_of_range) return first[0] != '-';
+  }
+  return position + exponent > 0;
+}
 }  // namespace
 
 Long Len(StringView s) { return static_cast<Long>(s.size()); }
@@ -68,6 +97,15 @@ String LTrim(StringView s) {
 
 String Trim(StringView s) { return LTrim(RTrim(s)); }
 
+bool SameName(std::string_view a, std::string_view b) {
+  const auto lower = [](char c) {
+    return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c;
+  };
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [&](char x, char y) {
+           return lower(x) == lower(y);
+         });
+}
+
 String UCase(StringView s) {
   String out(s);
   for (char16_t& c : out) {
@@ -120,7 +158,17 @@ Double Val(StringView s) {
       number += exponent;
     }
   }
-  const Double value = std::strtod(number.c_str(), nullptr);
+  // from_chars reads the same text in every C locale; it takes no "+".
+  const char* first = number.data() + (number[0] == '+' ? 1 : 0);
+  const char* last = number.data() + number.size();
+  Double value = 0;
+  const auto [end, error] = std::from_chars(first, last, value);
+  if (error == std::errc::result_out_of_range) {
+    if (!TooLargeForDouble(std::string_view(first, static_cast<std::size_t>(last - first)))) {
+      return number[0] == '-' ? -0.0 : 0.0;  // below the smallest Double: zero
+    }
+    throw PlatformError::Overflow();
+  }
   if (std::isinf(value)) throw PlatformError::Overflow();
   return value;
 }
@@ -129,9 +177,11 @@ String NumberText(Double value) {
   if (value == std::floor(value) && std::fabs(value) < 1e15) {
     return FromUtf8(std::to_string(static_cast<long long>(value)));
   }
+  // Fifteen significant digits, shortest form, a point in every C locale.
   char buffer[64];
-  std::snprintf(buffer, sizeof buffer, "%.15g", value);
-  return FromUtf8(buffer);
+  const auto result =
+      std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 15);
+  return FromUtf8(std::string_view(buffer, static_cast<std::size_t>(result.ptr - buffer)));
 }
 
 std::string ToUtf8(StringView s) {
@@ -166,43 +216,57 @@ std::string ToUtf8(StringView s) {
 }
 
 String FromUtf8(std::string_view s) {
+  // Well-formed sequences only, as Unicode defines them: no overlong form, no
+  // encoded surrogate, nothing above U+10FFFF. Each maximal part of an
+  // ill-formed sequence becomes one U+FFFD.
   String out;
   out.reserve(s.size());
   std::size_t i = 0;
   while (i < s.size()) {
-    const unsigned char b = static_cast<unsigned char>(s[i]);
-    char32_t c = 0xFFFD;
-    std::size_t extra = 0;
+    const auto byte = [&](std::size_t k) { return static_cast<unsigned char>(s[k]); };
+    const unsigned char b = byte(i);
     if (b < 0x80) {
-      c = b;
-    } else if ((b & 0xE0) == 0xC0) {
-      c = b & 0x1F;
+      out += static_cast<char16_t>(b);
+      ++i;
+      continue;
+    }
+    std::size_t extra = 0;
+    unsigned char low = 0x80, high = 0xBF;  // the range of the second byte
+    char32_t c = 0;
+    if (b >= 0xC2 && b <= 0xDF) {
       extra = 1;
-    } else if ((b & 0xF0) == 0xE0) {
-      c = b & 0x0F;
+      c = b & 0x1F;
+    } else if (b >= 0xE0 && b <= 0xEF) {
       extra = 2;
-    } else if ((b & 0xF8) == 0xF0) {
-      c = b & 0x07;
+      c = b & 0x0F;
+      if (b == 0xE0) low = 0xA0;   // below is overlong
+      if (b == 0xED) high = 0x9F;  // above are surrogates
+    } else if (b >= 0xF0 && b <= 0xF4) {
       extra = 3;
+      c = b & 0x07;
+      if (b == 0xF0) low = 0x90;   // below is overlong
+      if (b == 0xF4) high = 0x8F;  // above is beyond U+10FFFF
     }
     std::size_t taken = 1;
+    bool whole = extra > 0;
     for (std::size_t k = 1; k <= extra; ++k) {
-      if (i + k >= s.size() || (static_cast<unsigned char>(s[i + k]) & 0xC0) != 0x80) {
-        c = 0xFFFD;  // truncated sequence: one replacement for the lead byte
-        extra = 0;
+      const unsigned char lo = k == 1 ? low : 0x80, hi = k == 1 ? high : 0xBF;
+      if (i + k >= s.size() || byte(i + k) < lo || byte(i + k) > hi) {
+        whole = false;
         break;
       }
-      c = (c << 6) | (static_cast<unsigned char>(s[i + k]) & 0x3F);
+      c = (c << 6) | (byte(i + k) & 0x3F);
       taken = k + 1;
     }
-    if (b >= 0x80 && extra == 0 && taken == 1) c = 0xFFFD;
     i += taken;
-    if (c >= 0x10000 && c <= 0x10FFFF) {
+    if (!whole) {
+      out += u'\uFFFD';
+    } else if (c >= 0x10000) {
       c -= 0x10000;
       out += static_cast<char16_t>(0xD800 + (c >> 10));
       out += static_cast<char16_t>(0xDC00 + (c & 0x3FF));
     } else {
-      out += static_cast<char16_t>(c > 0x10FFFF ? 0xFFFD : c);
+      out += static_cast<char16_t>(c);
     }
   }
   return out;

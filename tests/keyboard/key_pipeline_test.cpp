@@ -136,6 +136,26 @@ TEST_F(KeyPipelineTest, EmptyScriptStarvesAfterTenSecondsOfVirtualTime) {
   EXPECT_EQ(session.Clock().Now() - before, 10000);
 }
 
+TEST_F(KeyPipelineTest, MaximalWaitsCostAFewPollsAndVirtualKeysStillComeFirst) {
+  Type("{wait:2147483647}{wait:2147483647}x");
+  const std::int64_t before = session.Clock().Now();
+  const std::int64_t calls = session.Loop().Calls();
+  EXPECT_EQ(WaitForKey().r, u"x");
+  EXPECT_EQ(session.Clock().Now() - before, 2 * std::int64_t{2147483647} + 1);
+  EXPECT_LE(session.Loop().Calls() - calls, 6);
+
+  // Virtual keys are read one a poll, 1 ms apart, before a wait's end.
+  Type("{wait:1000}y");
+  KySaisie{}.ClavierVirtuel(u"ab", 0, false);
+  const std::int64_t start = session.Clock().Now();
+  EXPECT_EQ(WaitForKey().r, u"a");
+  EXPECT_EQ(WaitForKey().r, u"b");
+  EXPECT_EQ(WaitForKey().code, 36);  // Home, ending the virtual keys
+  EXPECT_EQ(session.Clock().Now() - start, 3);
+  EXPECT_EQ(WaitForKey().r, u"y");
+  EXPECT_EQ(session.Clock().Now() - start, 1001);
+}
+
 TEST_F(KeyPipelineTest, VideClavierRunsNoDoEventsWhenNothingIsPending) {
   KySaisie k;
   const std::int64_t before = session.Clock().Now();

@@ -1,8 +1,11 @@
 #include <cmath>
 #include <limits>
+#include <memory>
 
 #include <gtest/gtest.h>
 
+#include "ferlan/assert.hpp"
+#include "ferlan/kysaisie.hpp"
 #include "ferlan/runtime.hpp"
 
 namespace ferlan {
@@ -100,6 +103,95 @@ TEST(PlatformRulesTest, Utf8RoundTripsEveryTextWithoutLoneSurrogates) {
   EXPECT_EQ(FromUtf8(ToUtf8(text)), text);
   EXPECT_EQ(FromUtf8("\xC3"), u"\uFFFD");  // truncated sequence
   EXPECT_EQ(ToUtf8(u"\xD800"), "\xEF\xBF\xBD");
+}
+
+TEST(PlatformRulesTest, Utf8RefusesEveryIllFormedSequenceOneReplacementAPart) {
+  struct Case {
+    std::string_view bytes;
+    String text;
+  };
+  // clang-format off
+  for (const Case& c : {
+           Case{"\xC0\xAF", u"\uFFFD\uFFFD"},                   // overlong "/", C0 never leads
+           Case{"\xC1\xBF", u"\uFFFD\uFFFD"},
+           Case{"\xE0\x80\xAF", u"\uFFFD\uFFFD\uFFFD"},         // overlong in three bytes
+           Case{"\xF0\x80\x80\xAF", u"\uFFFD\uFFFD\uFFFD\uFFFD"},  // and in four
+           Case{"\xED\xA0\x80", u"\uFFFD\uFFFD\uFFFD"},         // U+D800 encoded
+           Case{"\xED\xBF\xBFz", u"\uFFFD\uFFFD\uFFFDz"},       // U+DFFF encoded
+           Case{"\xF4\x90\x80\x80", u"\uFFFD\uFFFD\uFFFD\uFFFD"},  // U+110000
+           Case{"\xF5\x80", u"\uFFFD\uFFFD"}, Case{"\xFF", u"\uFFFD"},
+           Case{"\xE2\x82", u"\uFFFD"},                        // truncated: one part
+           Case{"\xF0\x9F\x98x", u"\uFFFDx"}, Case{"\x80\xBF", u"\uFFFD\uFFFD"},
+           Case{"\xED\x9F\xBF", u"\uD7FF"}, Case{"\xEE\x80\x80", u"\uE000"},
+           Case{"\xF4\x8F\xBF\xBF", u"\U0010FFFF"}, Case{"\xC2\x80", u"\u0080"},
+           Case{"\xE0\xA0\x80", u"\u0800"}, Case{"\xF0\x90\x80\x80", u"\U00010000"}}) {
+    // clang-format on
+    EXPECT_EQ(FromUtf8(c.bytes), c.text) << ToUtf8(c.text);
+  }
+}
+
+}  // namespace
+}  // namespace ferlan
+
+namespace ferlan {
+namespace {
+
+// The platform's own numbers and texts, written out here rather than taken
+// from the constructors under test.
+TEST(PlatformErrorTextTest, EachErrorHasThePlatformsNumberAndText) {
+  struct Case {
+    PlatformError error;
+    Long number;
+    const char* text;
+  };
+  // clang-format off
+  for (const Case& c : {
+      Case{PlatformError::InvalidCall(), 5, "Invalid procedure call or argument"},
+      Case{PlatformError::InvalidCall("bad key"), 5, "Invalid procedure call or argument: bad key"},
+      Case{PlatformError::Overflow(), 6, "Overflow"},
+      Case{PlatformError::SubscriptOutOfRange(), 9, "Subscript out of range"},
+      Case{PlatformError::DivisionByZero(), 11, "Division by zero"},
+      Case{PlatformError::TypeMismatch(), 13, "Type mismatch"},
+      Case{PlatformError::ObjectNotSet(), 91, "Object variable or With block variable not set"},
+      Case{PlatformError::CannotCreateObject("Dessin"), 429,
+           "ActiveX component can't create object: Dessin"},
+      Case{PlatformError::MemberNotSupported("Nope"), 438,
+           "Object doesn't support this property or method: Nope"},
+      Case{PlatformError::NotBuilt("Dorvi"), 445, "Dorvi is not built yet"},
+      Case{PlatformError::ArgumentNotOptional(), 449, "Argument not optional"},
+      Case{PlatformError::WrongArgumentCount(), 450,
+           "Wrong number of arguments or invalid property assignment"},
+      Case{PlatformError::Host("cairo", "out of memory"), 51, "cairo: out of memory"}}) {
+    // clang-format on
+    EXPECT_EQ(c.error.Number(), c.number) << c.text;
+    EXPECT_EQ(c.error.Description(), c.text);
+    EXPECT_STREQ(c.error.what(), c.text);
+  }
+}
+
+}  // namespace
+}  // namespace ferlan
+
+namespace ferlan {
+namespace {
+
+TEST(AssertTest, ABrokenInvariantAbortsWithItsPlaceInDebugBuildsOnly) {
+#if FERLAN_ASSERTIONS
+  EXPECT_DEATH(FERLAN_ASSERT(1 + 1 == 3),
+               "platform_rules_test.cpp:[0-9]+: FERLAN_ASSERT\\(1 \\+ 1 == 3\\) failed");
+  // Apartments end innermost first.
+  EXPECT_DEATH(
+      {
+        auto outer = std::make_unique<Apartment>(ClassRegistry{});
+        Apartment inner{ClassRegistry{}};
+        outer.reset();
+      },
+      "FERLAN_ASSERT\\(current_state == state_.get\\(\\)\\) failed");
+#else
+  int evaluated = 0;
+  FERLAN_ASSERT(++evaluated == 5);
+  EXPECT_EQ(evaluated, 0);
+#endif
 }
 
 }  // namespace

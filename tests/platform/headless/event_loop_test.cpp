@@ -100,5 +100,74 @@ TEST_F(EventLoopTest, OneMsTimerTicksEachDoEventsWithoutReentryTillDropped) {
   EXPECT_EQ(ticks, 4);
 }
 
+// Idle time skipped: the same notes at the same virtual times as 1 ms a
+// call, for far fewer calls.
+TEST_F(EventLoopTest, SkippingIdleTimeKeepsEveryTimeAndCount) {
+  const auto run = [this](bool skip) {
+    VirtualClock run_clock;
+    KeyScript run_script;
+    EventLoop run_loop{run_clock, run_script};
+    std::string notes;
+    const auto note = [&](const std::string& what) {
+      notes += what + "@" + std::to_string(run_clock.Now()) + " ";
+    };
+    form->on_key_press = [&](Integer& a) { note("P" + std::to_string(a)); };
+    run_loop.SetForm(form);
+    run_loop.SetAbandonWriter([&](Boolean v) { note(v ? "abandon" : "resume"); });
+    if (skip) run_loop.SetIdleSkipping([] { return true; });
+    TimerRef fast = run_loop.CreateTimer([&] { note("fast"); });
+    TimerRef slow = run_loop.CreateTimer([&] {
+      note("slow");
+      if (run_clock.Now() < 9000) run_script.Append("{wait:1}s");  // a tick that types
+    });
+    fast->SetEnabled(true);
+    fast->SetInterval(2500);
+    slow->SetEnabled(true);
+    slow->SetInterval(4000);
+    run_script.Append("{wait:1234}x{wait:3000}{wait:0}y");
+    while (!run_loop.Starved()) run_loop.DoEvents();
+    fast->SetEnabled(false);
+    slow->SetEnabled(false);
+    return std::make_pair(notes, run_loop.Calls());
+  };
+  const auto [stepped, stepped_calls] = run(false);
+  const auto [skipped, skipped_calls] = run(true);
+  EXPECT_EQ(skipped, stepped);
+  EXPECT_NE(stepped.find("abandon@18002"), std::string::npos) << stepped;
+  EXPECT_EQ(stepped_calls, 18002);
+  // A few calls for each of the 16 events, none for the idle time between.
+  EXPECT_LT(skipped_calls, 3 * 16);
+}
+
+TEST_F(EventLoopTest, MaximalWaitsTakeAFewCallsAndStarvationStaysAtTenSeconds) {
+  loop.SetIdleSkipping([] { return true; });
+  script.Append("{wait:2147483647}{wait:2147483647}a");
+  while (events.empty()) loop.DoEvents();
+  EXPECT_EQ(events, "D65,0@4294967295 P97@4294967295 ");
+  EXPECT_LE(loop.Calls(), 6);
+
+  // A timer set to the 9,999th ms of an empty script sees no starvation yet.
+  events.clear();
+  loop.BeginCall();
+  bool starved_at_9999 = true;
+  TimerRef probe = loop.CreateTimer([&] { starved_at_9999 = loop.Starved(); });
+  probe->SetEnabled(true);
+  probe->SetInterval(9999);
+  const std::int64_t start = clock.Now();
+  while (!loop.Starved()) loop.DoEvents();
+  probe->SetEnabled(false);
+  EXPECT_FALSE(starved_at_9999);
+  EXPECT_EQ(clock.Now() - start, 10000);
+  EXPECT_LE(loop.Calls(), 12);
+
+  // A caller with virtual keys to read gets 1 ms a call.
+  loop.SetIdleSkipping([] { return false; });
+  script.Append("{wait:50}");
+  const std::int64_t calls = loop.Calls();
+  for (int i = 0; i < 5; ++i) loop.DoEvents();
+  EXPECT_EQ(loop.Calls() - calls, 5);
+  EXPECT_EQ(clock.Now() - start, 10005);
+}
+
 }  // namespace
 }  // namespace ferlan::headless

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ferlan/assert.hpp"
 #include "forms/control.hpp"
 #include "support/session_test.hpp"
 
@@ -65,6 +66,19 @@ TEST(SessionLifetimeTest, ANewSessionFollowsTheLastAndMayBeReenteredOnResize) {
     session.Form().SetProperty("Height", Variant(Single{9500}));
     EXPECT_EQ(resizes, 2);
   }
+}
+
+TEST(SessionLifetimeTest, ASecondSessionOnTheSameThreadIsCaughtInDebugBuilds) {
+#if FERLAN_ASSERTIONS
+  EXPECT_DEATH(
+      {
+        headless::Session first;
+        headless::Session second;
+      },
+      "FERLAN_ASSERT\\(session_of_thread == nullptr\\) failed");
+#else
+  GTEST_SKIP() << "assertions are compiled out of this build";
+#endif
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <limits>
 #include <fstream>
 #include <utility>
 
@@ -126,6 +127,42 @@ TEST(RasterCanvasTest, TextInPiecesLandsOnTheWholeTextsPixelsAndGrowsWithItsFont
   EXPECT_GT(plain, 0);
   EXPECT_GT(bold, plain);
   EXPECT_GT(big, 3 * plain);  // four times the area, give or take the edges
+}
+
+TEST(RasterCanvasTest, FarCoordinatesAreClippedToTheImage) {
+  RasterCanvas canvas(3000, 3000);  // 200 x 200 pixels
+  const auto painted = [&] { return 200 * 200 - CountColour(canvas, kWhite, 0, 0, 199, 199); };
+  const float nan = std::numeric_limits<float>::quiet_NaN();
+  for (const Single far : {1e30F, 3e38F, std::numeric_limits<Single>::max()}) {
+    canvas.Clear(kWhite);
+    for (const Single v : {far, -far}) {
+      canvas.Text(v, 0, u"far", kSize10, kBlue);
+      canvas.Text(0, v, u"far", kSize10, kBlue);
+      canvas.Text(v, v, u"far", kSize10, kBlue);
+      canvas.Box(v, v, 2 * v, 2 * v, kBlue);
+      canvas.FillBox(v, 0, v, 3000, kBlue);
+      canvas.Line(v, v, v, -v, kBlue);
+      canvas.Line(v, 0, v, 100, kBlue);
+      canvas.Line(nan, 0, v, 100, kBlue);
+    }
+    EXPECT_EQ(painted(), 0) << far;
+    // Spanning the whole image from far away on both sides.
+    canvas.Box(-far, -far, far, far, kBlue);
+    EXPECT_EQ(painted(), 0) << far;
+    canvas.FillBox(-far, -far, far, far, kYellow);
+    EXPECT_EQ(CountColour(canvas, kYellow, 0, 0, 199, 199), 200 * 200) << far;
+    // So far off, a Single (or a double) no longer places a slanted line to
+    // the pixel; it must only stay inside the image.
+    canvas.Line(-far, -far, far, far, kBlue);
+  }
+  // Far beyond the clamp of pixel positions yet precise: the diagonal keeps
+  // its slope, every pixel of it and only those.
+  for (const Single far : {1e8F, 1e9F}) {
+    canvas.Clear(kWhite);
+    canvas.Line(-far, -far, far, far, kBlue);
+    EXPECT_EQ(CountColour(canvas, kBlue, 0, 0, 199, 199), 200) << far;
+    EXPECT_EQ(canvas.ColourAt(77, 77), kBlue) << far;
+  }
 }
 
 TEST(RasterCanvasTest, SnapshotPaintsWhereAskedCutAtTheEdge) {

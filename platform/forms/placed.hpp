@@ -1,0 +1,39 @@
+// A control's place and size on its form, in twips, and its visibility: the
+// one implementation of those members for every kind of control.
+#pragma once
+
+#include "ferlan/host.hpp"
+
+namespace ferlan::forms {
+
+// Implements the members of ferlan::Control for an Interface derived from it.
+template <class Interface>
+class Placed : public Interface {
+ public:
+  Single Left() const override { return left_; }
+  void SetLeft(Single v) override { left_ = v; }
+  Single Top() const override { return top_; }
+  void SetTop(Single v) override { top_ = v; }
+  Single Width() const override { return width_; }
+  // Errors: 5 for a negative size, as the platform refuses it.
+  void SetWidth(Single v) override {
+    if (v < 0) throw PlatformError::InvalidCall("negative Width");
+    width_ = v;
+  }
+  Single Height() const override { return height_; }
+  void SetHeight(Single v) override {
+    if (v < 0) throw PlatformError::InvalidCall("negative Height");
+    height_ = v;
+  }
+  Boolean Visible() const override { return visible_; }
+  void SetVisible(Boolean v) override { visible_ = v; }
+
+ private:
+  Single left_ = 0;
+  Single top_ = 0;
+  Single width_ = 0;
+  Single height_ = 0;
+  Boolean visible_ = true;
+};
+
+}  // namespace ferlan::forms
