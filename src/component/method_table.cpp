@@ -99,7 +99,11 @@ Variant Call(R (KySaisie::*method)(P...), std::string_view name, const Defaults&
       if (I < args.size()) {
         slot.Load(args[I]);
       } else if (I >= first_default) {
-        slot.Load(defaults[I - first_default]);
+        // An optional output whose default is Empty is left out: nullptr,
+        // as in a direct call.
+        const Variant& value = defaults[I - first_default];
+        using S = std::remove_reference_t<decltype(slot)>;
+        if (!(S::kOptionalOut && std::holds_alternative<Empty>(value))) slot.Load(value);
       } else if (!std::remove_reference_t<decltype(slot)>::kOptionalOut) {
         throw PlatformError::ArgumentNotOptional(ArgumentText(I, name));
       }
@@ -120,25 +124,42 @@ Variant Call(R (KySaisie::*method)(P...), std::string_view name, const Defaults&
       return Variant((self.*method)(std::get<I>(slots).Arg()...));
     }
   };
-  Variant result = invoke(std::index_sequence_for<P...>{});
-
+  // Outputs are written back whether the method ends or raises, as a caller
+  // bound by reference sees every change made before an error.
   auto store = [&]<std::size_t I>(std::integral_constant<std::size_t, I>) {
     auto& slot = std::get<I>(slots);
     if (std::remove_reference_t<decltype(slot)>::kOut && I < args.size() && slot.Loaded()) {
       args[I] = slot.Result();
     }
   };
-  [&]<std::size_t... I>(std::index_sequence<I...>) {
-    (store(std::integral_constant<std::size_t, I>{}), ...);
-  }(std::index_sequence_for<P...>{});
+  auto store_all = [&] {
+    [&]<std::size_t... I>(std::index_sequence<I...>) {
+      (store(std::integral_constant<std::size_t, I>{}), ...);
+    }(std::index_sequence_for<P...>{});
+  };
+  Variant result;
+  try {
+    result = invoke(std::index_sequence_for<P...>{});
+  } catch (...) {
+    store_all();
+    throw;
+  }
+  store_all();
   return result;
+}
+
+template <class R, class... P>
+constexpr std::size_t Arity(R (KySaisie::*)(P...)) {
+  return sizeof...(P);
 }
 
 template <class M>
 MethodInfo Built(std::string_view name, M method, Defaults defaults = {}) {
-  return {name, 0, [name, method, defaults](KySaisie& self, std::vector<Variant>& args) {
+  return {name, 0,
+          [name, method, defaults](KySaisie& self, std::vector<Variant>& args) {
             return Call(method, name, defaults, self, args);
-          }};
+          },
+          defaults, Arity(method)};
 }
 
 std::vector<MethodInfo> BuildTable() {
