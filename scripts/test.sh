@@ -29,8 +29,5 @@ for f in build-asan/fuzz/*_fuzzer; do
   echo "$(basename "$f"): no finding"
 done
 
-echo "== examples through ferlan automate"
-for script in examples/*.jsonl; do
-  timeout 120 build/ferlan automate --surface raster < "$script" > /dev/null
-  echo "$script: replayed"
-done
+echo "== examples through ferlan automate, against their expected answers"
+bash scripts/check_examples.sh build/ferlan

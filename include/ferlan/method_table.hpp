@@ -15,7 +15,8 @@ namespace ferlan {
 
 // Calls the method with `args` in declared order; trailing optional
 // arguments may be left out. Arguments the method writes are written back
-// into `args`. Gives the method's result, Empty for a procedure.
+// into `args`, also when it raises (the changes made before the error stay
+// visible). Gives the method's result, Empty for a procedure.
 // Errors: 450 for too many arguments, 449 for a required one left out, 13
 // for an argument of the wrong type, and whatever the method itself raises.
 using Invoker = std::function<Variant(KySaisie& self, std::vector<Variant>& args)>;
@@ -24,6 +25,11 @@ struct MethodInfo {
   std::string_view name;  // UTF-8, accents kept
   Long dispid;
   Invoker invoke;
+  // The values of the last defaults.size() parameters when left out (Empty
+  // for an optional output: nullptr); other optional outputs may be left
+  // out too. `arity` counts the parameters, 0 for a method not built.
+  std::vector<Variant> defaults;
+  std::size_t arity = 0;
 };
 
 constexpr Long kFirstDispId = 0x60030000;

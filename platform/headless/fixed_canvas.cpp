@@ -1,5 +1,7 @@
 #include "headless/fixed_canvas.hpp"
 
+#include <algorithm>
+
 namespace ferlan::headless {
 
 namespace {
@@ -58,18 +60,29 @@ void FixedCanvas::Resize(Single width, Single height) {
 void FixedCanvas::Clear(Long colour) {
   background_ = colour;
   ops_.clear();
+  dropped_ = 0;
 }
 
 void FixedCanvas::FillBox(Single x1, Single y1, Single x2, Single y2, Long colour) {
-  ops_.push_back(Shape(DrawOp::Kind::FillBox, x1, y1, x2, y2, colour));
+  // A filled box hides whatever lies wholly inside it: those items leave the
+  // list, which so stays as long as what can still be seen.
+  const Single left = std::min(x1, x2);
+  const Single right = std::max(x1, x2);
+  const Single top = std::min(y1, y2);
+  const Single bottom = std::max(y1, y2);
+  std::erase_if(ops_, [&](const DrawOp& op) {
+    return std::min(op.x1, op.x2) >= left && std::max(op.x1, op.x2) <= right &&
+           std::min(op.y1, op.y2) >= top && std::max(op.y1, op.y2) <= bottom;
+  });
+  Add(Shape(DrawOp::Kind::FillBox, x1, y1, x2, y2, colour));
 }
 
 void FixedCanvas::Box(Single x1, Single y1, Single x2, Single y2, Long colour) {
-  ops_.push_back(Shape(DrawOp::Kind::Box, x1, y1, x2, y2, colour));
+  Add(Shape(DrawOp::Kind::Box, x1, y1, x2, y2, colour));
 }
 
 void FixedCanvas::Line(Single x1, Single y1, Single x2, Single y2, Long colour) {
-  ops_.push_back(Shape(DrawOp::Kind::Line, x1, y1, x2, y2, colour));
+  Add(Shape(DrawOp::Kind::Line, x1, y1, x2, y2, colour));
 }
 
 void FixedCanvas::Text(Single x, Single y, StringView text, const forms::FontSpec& font,
@@ -78,7 +91,7 @@ void FixedCanvas::Text(Single x, Single y, StringView text, const forms::FontSpe
                     y + TextHeight(text, font), colour);
   op.text = String(text);
   op.font = font;
-  ops_.push_back(std::move(op));
+  Add(std::move(op));
 }
 
 PictureRef FixedCanvas::Snapshot() {
@@ -90,7 +103,7 @@ void FixedCanvas::Paint(const Picture& picture, Single x, Single y) {
   const Single bottom = y + picture.Height();
   const auto* list = dynamic_cast<const DisplayListPicture*>(&picture);
   if (!list) {
-    ops_.push_back(Shape(DrawOp::Kind::Picture, x, y, right, bottom, 0));
+    Add(Shape(DrawOp::Kind::Picture, x, y, right, bottom, 0));
     return;
   }
   if (x == 0 && y == 0 && right >= width_ && bottom >= height_) {
@@ -98,13 +111,23 @@ void FixedCanvas::Paint(const Picture& picture, Single x, Single y) {
     ops_ = list->Ops();
     return;
   }
-  ops_.push_back(Shape(DrawOp::Kind::FillBox, x, y, right, bottom, list->Background()));
+  Add(Shape(DrawOp::Kind::FillBox, x, y, right, bottom, list->Background()));
   for (DrawOp op : list->Ops()) {
     op.x1 += x;
     op.x2 += x;
     op.y1 += y;
     op.y2 += y;
-    ops_.push_back(std::move(op));
+    Add(std::move(op));
+  }
+}
+
+void FixedCanvas::Add(DrawOp op) {
+  ops_.push_back(std::move(op));
+  // Trimmed by a quarter at a time, so that each item costs a constant share.
+  if (ops_.size() > kOpsLimit + kOpsLimit / 4) {
+    const std::size_t excess = ops_.size() - kOpsLimit;
+    ops_.erase(ops_.begin(), ops_.begin() + static_cast<std::ptrdiff_t>(excess));
+    dropped_ += excess;
   }
 }
 

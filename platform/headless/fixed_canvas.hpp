@@ -2,13 +2,18 @@
 // At Font.Size S a text is 19.5 x S high (also an empty one) and 10.5 x S
 // wide per UTF-16 unit, so at the default size 10 TextHeight(" ") is 195 and
 // TextWidth("T") is 105. Nothing is rasterised: the canvas keeps a display
-// list of what was drawn since the last Clear.
+// list of what was drawn since the last Clear, less what a later filled box
+// covers wholly (edges included). Texts are drawn transparent and cover
+// nothing, so a list that still passes kOpsLimit + kOpsLimit / 4 items
+// forgets its oldest down to kOpsLimit and counts them: memory stays flat
+// however long a session runs.
 //
 // Fakes: pixels. Snapshot gives a picture that holds the list, and painting
 // such a picture brings its list back; any other picture is recorded as one
 // Picture operation with its place and size only.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -54,6 +59,7 @@ class FixedCanvas final : public forms::Canvas {
  public:
   static constexpr double kHeightPerPoint = 19.5;
   static constexpr double kWidthPerPoint = 10.5;
+  static constexpr std::size_t kOpsLimit = 10000;
 
   Single TextWidth(StringView text, const forms::FontSpec& font) override;
   Single TextHeight(StringView text, const forms::FontSpec& font) override;
@@ -74,14 +80,19 @@ class FixedCanvas final : public forms::Canvas {
   Single Height() const { return height_; }
   Long Background() const { return background_; }
   const std::vector<DrawOp>& Ops() const { return ops_; }
+  // Items forgotten over the limit since the last Clear.
+  std::size_t Dropped() const { return dropped_; }
   // The list, one Describe line each, each ending in a newline.
   std::string DescribeOps() const;
 
  private:
+  void Add(DrawOp op);
+
   Single width_ = 0;
   Single height_ = 0;
   Long background_ = 0;
   std::vector<DrawOp> ops_;
+  std::size_t dropped_ = 0;
 };
 
 // Makes the canvas of each new picture control: a FixedCanvas.

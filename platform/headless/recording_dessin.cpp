@@ -1,5 +1,6 @@
 #include "headless/recording_dessin.hpp"
 
+#include <iterator>
 #include <type_traits>
 
 namespace ferlan::headless {
@@ -31,8 +32,10 @@ RecordingDessin::RecordingDessin(std::shared_ptr<Dessin> inner) : inner_(std::mo
 }
 
 std::vector<DessinCall> RecordingDessin::TakeLog() {
-  std::vector<DessinCall> taken;
-  taken.swap(log_);
+  std::vector<DessinCall> taken(std::make_move_iterator(log_.begin()),
+                                std::make_move_iterator(log_.end()));
+  std::deque<DessinCall>().swap(log_);
+  dropped_ = 0;
   return taken;
 }
 
@@ -43,6 +46,10 @@ std::string RecordingDessin::TakeLogText() {
 }
 
 void RecordingDessin::Record(std::string name, std::vector<Variant> args) {
+  if (log_.size() == kLogLimit) {
+    log_.pop_front();
+    ++dropped_;
+  }
   log_.push_back({std::move(name), std::move(args)});
 }
 

@@ -4,6 +4,8 @@
 // without the surface or form it was given.
 #pragma once
 
+#include <cstddef>
+#include <deque>
 #include <memory>
 #include <string>
 #include <vector>
@@ -27,10 +29,17 @@ class RecordingDessin final : public Dessin {
   // Pre: `inner` is not null.
   explicit RecordingDessin(std::shared_ptr<Dessin> inner);
 
+  // The log keeps the latest kLogLimit calls; older ones are dropped and
+  // counted, so a session whose log is never read stays flat.
+  static constexpr std::size_t kLogLimit = 10000;
+
   // The calls since the last TakeLog, which forgets them.
   std::vector<DessinCall> TakeLog();
   // The same, one Describe line each, each ending in a newline.
   std::string TakeLogText();
+  // Calls dropped from the log since the last TakeLog (cleared by it; read
+  // it first).
+  std::size_t Dropped() const { return dropped_; }
 
   Single TaillePolice(PictureBox& Zone) override;
   void Texte(PictureBox& Zone, Single X, Single Y, const String& Mes, Long Coul) override;
@@ -60,7 +69,8 @@ class RecordingDessin final : public Dessin {
   void Record(std::string name, std::vector<Variant> args);
 
   std::shared_ptr<Dessin> inner_;
-  std::vector<DessinCall> log_;
+  std::deque<DessinCall> log_;
+  std::size_t dropped_ = 0;
 };
 
 }  // namespace ferlan::headless

@@ -12,7 +12,7 @@ class Aide : public ferlan::Aide {
  public:
   explicit Aide(std::shared_ptr<Records> records) : records_(std::move(records)) {}
 
-  void Affiche(const String& Sujet) override { records_->help.push_back(Sujet); }
+  void Affiche(const String& Sujet) override { records_->Keep(records_->help, String(Sujet)); }
 
  private:
   std::shared_ptr<Records> records_;

@@ -3,9 +3,9 @@
 namespace ferlan::kit {
 
 void Erreur::Message(const String& Mes, const String& Source) {
-  records_->reports.push_back({Source, Mes, std::nullopt});
+  records_->Keep(records_->reports, ErrorReport{Source, Mes, std::nullopt});
 }
 
-void Erreur::Code(Long N) { records_->reports.push_back({{}, {}, N}); }
+void Erreur::Code(Long N) { records_->Keep(records_->reports, ErrorReport{{}, {}, N}); }
 
 }  // namespace ferlan::kit

@@ -7,6 +7,7 @@
 // state through the Env objects it creates.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -106,16 +107,32 @@ struct BlocReport {
 // What the reporting services received, in order. The host chooses how to
 // show them; the services themselves show nothing and return at once.
 struct Records {
+  // Each list keeps its first kLimit entries until the host clears it; the
+  // later ones are counted in `dropped`, so a host that never reads them
+  // stays flat.
+  static constexpr std::size_t kLimit = 1000;
+
   std::vector<ErrorReport> reports;
   std::vector<BoxReport> boxes;
   std::vector<BlocReport> blocs;
   std::vector<String> help;  // topics given to Aide.Affiche
+  std::size_t dropped = 0;
+
+  template <class T>
+  void Keep(std::vector<T>& list, T entry) {
+    if (list.size() >= kLimit) {
+      ++dropped;
+      return;
+    }
+    list.push_back(std::move(entry));
+  }
 
   void Clear() {
     reports.clear();
     boxes.clear();
     blocs.clear();
     help.clear();
+    dropped = 0;
   }
 };
 

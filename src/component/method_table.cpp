@@ -90,7 +90,11 @@ Variant Call(R (KySaisie::*method)(P...), std::string_view name, const Defaults&
       if (I < args.size()) {
         slot.Load(args[I]);
       } else if (I >= first_default) {
-        slot.Load(defaults[I - first_default]);
+        // An optional output whose default is Empty is left out: nullptr,
+        // as in a direct call.
+        const Variant& value = defaults[I - first_default];
+        using S = std::remove_reference_t<decltype(slot)>;
+        if (!(S::kOptionalOut && std::holds_alternative<Empty>(value))) slot.Load(value);
       } else if (!std::remove_reference_t<decltype(slot)>::kOptionalOut) {
         throw PlatformError::ArgumentNotOptional(ArgumentText(I, name));
       }
@@ -111,25 +115,42 @@ Variant Call(R (KySaisie::*method)(P...), std::string_view name, const Defaults&
       return Variant((self.*method)(std::get<I>(slots).Arg()...));
     }
   };
-  Variant result = invoke(std::index_sequence_for<P...>{});
-
+  // Outputs are written back whether the method ends or raises, as a caller
+  // bound by reference sees every change made before an error.
   auto store = [&]<std::size_t I>(std::integral_constant<std::size_t, I>) {
     auto& slot = std::get<I>(slots);
     if (std::remove_reference_t<decltype(slot)>::kOut && I < args.size() && slot.Loaded()) {
       args[I] = slot.Result();
     }
   };
-  [&]<std::size_t... I>(std::index_sequence<I...>) {
-    (store(std::integral_constant<std::size_t, I>{}), ...);
-  }(std::index_sequence_for<P...>{});
+  auto store_all = [&] {
+    [&]<std::size_t... I>(std::index_sequence<I...>) {
+      (store(std::integral_constant<std::size_t, I>{}), ...);
+    }(std::index_sequence_for<P...>{});
+  };
+  Variant result;
+  try {
+    result = invoke(std::index_sequence_for<P...>{});
+  } catch (...) {
+    store_all();
+    throw;
+  }
+  store_all();
   return result;
+}
+
+template <class R, class... P>
+constexpr std::size_t Arity(R (KySaisie::*)(P...)) {
+  return sizeof...(P);
 }
 
 template <class M>
 MethodInfo Built(std::string_view name, M method, Defaults defaults = {}) {
-  return {name, 0, [name, method, defaults](KySaisie& self, std::vector<Variant>& args) {
+  return {name, 0,
+          [name, method, defaults](KySaisie& self, std::vector<Variant>& args) {
             return Call(method, name, defaults, self, args);
-          }};
+          },
+          defaults, Arity(method)};
 }
 
 std::vector<MethodInfo> BuildTable() {
@@ -160,7 +181,7 @@ std::vector<MethodInfo> BuildTable() {
       Built("RechRub", &K::RechRub),
       Built("CodeType", &K::CodeType),
       Built("DecodeType", &K::DecodeType),
-      Built("SaisDon", &K::SaisDon, {Long{0}, String(u"[]"), String(u"B")}),
+      Built("SaisDon", &K::SaisDon, {Empty{}, String(u"[]"), String(u"B")}),
       Built("ModD", &K::ModD,
             {Long{0}, Long{0}, String(u"F"), Empty{}, String(u"[]"), String(u"B")}),
       Built("ModDT", &K::ModDT,
@@ -172,7 +193,7 @@ std::vector<MethodInfo> BuildTable() {
       Built("Sai", &K::Sai, {false, String(u"[]"), String(u"B")}),
       Built("SaiD", &K::SaiD, {String(u"B")}),
       Built("SaiF", &K::SaiF, {String(u"B")}),
-      Built("SaisDonnee", &K::SaisDonnee, {Long{0}, String(u"[]"), String(u"B")}),
+      Built("SaisDonnee", &K::SaisDonnee, {Empty{}, String(u"[]"), String(u"B")}),
       Built("SaisL", &K::SaisL, {String(u"B")}),
       Built("SaiLON", &K::SaiLON, {String(u"B")}),
       Built("ConsDon", &K::ConsDon),

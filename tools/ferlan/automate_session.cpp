@@ -8,6 +8,7 @@
 #include "ferlan/picture_objects.hpp"
 #include "ferlan/property_path.hpp"
 #include "ferlan/record_table_get.hpp"
+#include "ferlan/request_reader.hpp"
 #include "headless/session.hpp"
 #if FERLAN_HAVE_RASTER
 #include "raster/form_picture.hpp"
@@ -34,9 +35,33 @@ std::pair<std::string, std::string> SplitPath(const std::string& path) {
   return {path.substr(0, dot), path.substr(dot + 1)};
 }
 
-Json ReportsOf(const kit::Records& records, std::size_t from) {
+// The kinds of request, each with the one other key it may carry.
+struct KindName {
+  AutomateSession::Kind kind;
+  const char* key;
+  const char* extra;  // nullptr: the kind's key alone
+};
+constexpr KindName kKinds[] = {
+    {AutomateSession::Kind::Call, "call", "args"}, {AutomateSession::Kind::Keys, "keys", nullptr},
+    {AutomateSession::Kind::Set, "set", nullptr},  {AutomateSession::Kind::Get, "get", nullptr},
+    {AutomateSession::Kind::New, "new", nullptr},  {AutomateSession::Kind::Log, "log", nullptr},
+    {AutomateSession::Kind::Png, "png", nullptr},  {AutomateSession::Kind::Reset, "reset", nullptr},
+};
+
+// A file name as the system takes it: no NUL, which would cut it short.
+std::string FileName(const Json& value, const std::string& what) {
+  if (!value.is_string()) throw BadRequest(what + ": the file name is a string");
+  std::string name = value.get<std::string>();
+  if (name.empty()) throw BadRequest(what + ": the file name is empty");
+  if (name.find('\0') != std::string::npos) {
+    throw BadRequest(what + ": a file name holds no NUL character");
+  }
+  return name;
+}
+
+Json ReportsOf(const kit::Records& records) {
   Json out = Json::array();
-  for (std::size_t i = from; i < records.reports.size(); ++i) {
+  for (std::size_t i = 0; i < records.reports.size(); ++i) {
     const auto& r = records.reports[i];
     if (r.code) {
       out.push_back({{"code", *r.code}});
@@ -48,30 +73,49 @@ Json ReportsOf(const kit::Records& records, std::size_t from) {
 }
 
 // Message boxes, then the block messages given to Boite.BlocMes.
-Json BoxesOf(const kit::Records& records, std::size_t from, std::size_t blocs_from) {
+Json BoxesOf(const kit::Records& records) {
   Json out = Json::array();
-  for (std::size_t i = from; i < records.boxes.size(); ++i) {
+  for (std::size_t i = 0; i < records.boxes.size(); ++i) {
     const auto& b = records.boxes[i];
     out.push_back({{"style", TextToJson(b.style)},
                    {"title", TextToJson(b.title)},
                    {"text", TextToJson(b.text)}});
   }
-  for (std::size_t i = blocs_from; i < records.blocs.size(); ++i) {
+  for (std::size_t i = 0; i < records.blocs.size(); ++i) {
     out.push_back({{"bloc", TextToJson(records.blocs[i].message)},
                    {"line", records.blocs[i].line}});
   }
   return out;
 }
 
-Json HelpOf(const kit::Records& records, std::size_t from) {
+Json HelpOf(const kit::Records& records) {
   Json out = Json::array();
-  for (std::size_t i = from; i < records.help.size(); ++i) {
+  for (std::size_t i = 0; i < records.help.size(); ++i) {
     out.push_back(TextToJson(records.help[i]));
   }
   return out;
 }
 
 }  // namespace
+
+AutomateSession::Kind AutomateSession::KindOf(const Json& request) {
+  const KindName* found = nullptr;
+  for (const KindName& k : kKinds) {
+    if (!request.contains(k.key)) continue;
+    if (found) {
+      throw BadRequest(std::string("a request has one kind: both \"") + found->key +
+                       "\" and \"" + k.key + "\"");
+    }
+    found = &k;
+  }
+  if (!found) throw BadRequest("unknown request: expected call, keys, set, get, new, log, png or reset");
+  for (const auto& [key, value] : request.items()) {
+    if (key != found->key && !(found->extra && key == found->extra)) {
+      throw BadRequest(std::string(found->key) + ": unknown member \"" + key + "\"");
+    }
+  }
+  return found->kind;
+}
 
 AutomateSession::AutomateSession(SurfaceKind surface) : surface_(surface) { Reset(); }
 
@@ -87,41 +131,60 @@ void AutomateSession::Reset() {
 #endif
 }
 
-void AutomateSession::Run(std::istream& in, std::ostream& out) {
+bool AutomateSession::Run(std::istream& in, std::ostream& out) {
   std::string line;
-  while (std::getline(in, line)) {
-    if (line.find_first_not_of(" \t\r") == std::string::npos) continue;
-    out << Handle(line) << '\n' << std::flush;
+  for (;;) {
+    const LineRead read = ReadRequestLine(in, line);
+    if (read == LineRead::End) break;
+    std::string answer;
+    if (read == LineRead::TooLong) {
+      answer = ErrorAnswer(BadRequest("a request line holds at most " +
+                                      std::to_string(kMaxRequestBytes) + " bytes"))
+                   .dump();
+    } else if (line.find_first_not_of(" \t\r") == std::string::npos) {
+      continue;  // blank lines are skipped, without an answer
+    } else {
+      answer = Handle(line);
+    }
+    // An answer that cannot be written ends the session: nobody reads on.
+    out << answer << '\n' << std::flush;
+    if (!out) return false;
   }
+  return true;
 }
 
 std::string AutomateSession::Handle(std::string_view line) {
   Json answer;
   try {
-    const Json request = Json::parse(line);
+    const Json request = ParseRequest(line);
     if (!request.is_object()) throw BadRequest("a request is a JSON object");
-    if (request.contains("call")) {
-      answer = Call(request);
-    } else if (request.contains("keys")) {
-      answer = Keys(request);
-    } else if (request.contains("set")) {
-      answer = Set(request);
-    } else if (request.contains("get")) {
-      answer = Get(request);
-    } else if (request.contains("new")) {
-      answer = New(request);
-    } else if (request.contains("log")) {
-      answer = Log();
-    } else if (request.contains("png")) {
-      answer = Png(request);
-    } else if (request.contains("reset")) {
-      Reset();
-      answer = Json{{"ok", true}};
-    } else {
-      throw BadRequest("unknown request: expected call, keys, set, get, new, log, png or reset");
+    switch (KindOf(request)) {
+      case Kind::Call:
+        answer = Call(request);
+        break;
+      case Kind::Keys:
+        answer = Keys(request);
+        break;
+      case Kind::Set:
+        answer = Set(request);
+        break;
+      case Kind::Get:
+        answer = Get(request);
+        break;
+      case Kind::New:
+        answer = New(request);
+        break;
+      case Kind::Log:
+        answer = Log();
+        break;
+      case Kind::Png:
+        answer = Png(request);
+        break;
+      case Kind::Reset:
+        Reset();
+        answer = Json{{"ok", true}};
+        break;
     }
-  } catch (const Json::exception& e) {
-    answer = ErrorAnswer(BadRequest(std::string("broken JSON: ") + e.what()));
   } catch (const PlatformError& e) {
     answer = ErrorAnswer(e);
   } catch (const std::exception& e) {
@@ -150,11 +213,10 @@ Json AutomateSession::Call(const Json& request) {
     }
   }
 
+  // The records hold what this call received and are emptied once answered:
+  // nothing can ask for them later.
   kit::Records& records = session_->Records();
-  const std::size_t reports = records.reports.size();
-  const std::size_t boxes = records.boxes.size();
-  const std::size_t blocs = records.blocs.size();
-  const std::size_t help = records.help.size();
+  records.Clear();
   session_->BeginCall();
 
   Json answer;
@@ -172,9 +234,11 @@ Json AutomateSession::Call(const Json& request) {
     out_args.push_back(VariantToJson(a, [this](const ObjectRef& o) { return NameOf(o); }));
   }
   answer["args"] = out_args;
-  answer["reports"] = ReportsOf(records, reports);
-  answer["boxes"] = BoxesOf(records, boxes, blocs);
-  answer["help"] = HelpOf(records, help);
+  answer["reports"] = ReportsOf(records);
+  answer["boxes"] = BoxesOf(records);
+  answer["help"] = HelpOf(records);
+  if (records.dropped > 0) answer["dropped"] = records.dropped;
+  records.Clear();
   if (session_->EndCall()) answer["starved"] = true;
   return answer;
 }
@@ -187,8 +251,32 @@ Json AutomateSession::Keys(const Json& request) {
 
 Json AutomateSession::Set(const Json& request) {
   if (!request["set"].is_object()) throw BadRequest("set: an object of names and values");
-  for (const auto& [path, value] : request["set"].items()) SetValue(path, value);
+  SetAll(request["set"], {});
   return Json{{"ok", true}};
+}
+
+void AutomateSession::SetAll(const Json& values, const std::string& prefix) {
+  // Each old value is read before its new one is written; when a write
+  // fails, those already written are put back, last first, so a failing
+  // request changes nothing.
+  std::vector<std::pair<std::string, Variant>> done;
+  try {
+    for (const auto& [name, value] : values.items()) {
+      const std::string path = prefix + name;
+      Variant old = GetValue(path);
+      SetValue(path, value);
+      done.emplace_back(path, std::move(old));
+    }
+  } catch (...) {
+    for (auto it = done.rbegin(); it != done.rend(); ++it) {
+      try {
+        SetVariant(it->first, it->second);
+      } catch (const PlatformError&) {
+        // the value read cannot be written back; the others still are
+      }
+    }
+    throw;
+  }
 }
 
 Json AutomateSession::Get(const Json& request) {
@@ -207,24 +295,47 @@ Json AutomateSession::New(const Json& request) {
   if (!order.is_object() || !order.contains("name") || !order["name"].is_string()) {
     throw BadRequest("new: {\"name\":...,\"kind\":\"PictureBox\",\"set\":{...}}");
   }
+  for (const auto& [key, value] : order.items()) {
+    if (key != "name" && key != "kind" && key != "file" && key != "set") {
+      throw BadRequest("new: unknown member \"" + key + "\"");
+    }
+  }
+  if (order.contains("kind") && !order["kind"].is_string()) {
+    throw BadRequest("new: the kind is a string");
+  }
   const std::string kind = order.value("kind", std::string("PictureBox"));
   if (kind != "PictureBox" && kind != "Picture") {
     throw BadRequest("new: unknown kind \"" + kind + "\"");
   }
   const std::string name = order["name"].get<std::string>();
-  if (name.find('.') != std::string::npos) throw BadRequest("new: a name holds no point");
+  if (name.empty() || name.find_first_of(std::string(".\0", 2)) != std::string::npos) {
+    throw BadRequest("new: a name is not empty and holds no point and no NUL");
+  }
+  if (ObjectNamed(name) && !named_.contains(name)) {
+    throw BadRequest("new: \"" + name + "\" names an object of the session");
+  }
+  if (order.contains("set") && !order["set"].is_object()) throw BadRequest("new: set is an object");
+  if (order.contains("file")) FileName(order["file"], "new");
+  // The object gets its name only once every property is set, so a failing
+  // request leaves the name as it was.
+  const ObjectRef previous = named_.contains(name) ? named_[name] : nullptr;
   named_[name] = kind == "Picture" ? LoadPictureControl(*session_, name, order)
                                    : session_->NewPictureBox();
-  if (order.contains("set")) {
-    if (!order["set"].is_object()) throw BadRequest("new: set is an object");
-    for (const auto& [property, value] : order["set"].items()) {
-      SetValue(name + "." + property, value);
+  try {
+    if (order.contains("set")) SetAll(order["set"], name + ".");
+  } catch (...) {
+    if (previous) {
+      named_[name] = previous;
+    } else {
+      named_.erase(name);
     }
+    throw;
   }
   return Json{{"ok", true}};
 }
 
 Json AutomateSession::Log() {
+  const std::size_t dropped = session_->Recorder().Dropped();
   Json ops = Json::array();
   for (const auto& call : session_->Recorder().TakeLog()) {
     Json op = Json::array({call.name});
@@ -233,14 +344,16 @@ Json AutomateSession::Log() {
     }
     ops.push_back(op);
   }
-  return Json{{"ok", true}, {"ops", ops}};
+  Json answer{{"ok", true}, {"ops", ops}};
+  if (dropped > 0) answer["dropped"] = dropped;
+  return answer;
 }
 
 Json AutomateSession::Png(const Json& request) {
-  if (!request["png"].is_string()) throw BadRequest("png: the file name is a string");
+  const std::string file = FileName(request["png"], "png");
 #if FERLAN_HAVE_RASTER
   if (surface_ == SurfaceKind::Raster) {
-    raster::WriteFormPng(session_->Form(), request["png"].get<std::string>(),
+    raster::WriteFormPng(session_->Form(), file,
                         session_->Env().surface.get());
     return Json{{"ok", true}};
   }
@@ -286,9 +399,12 @@ Variant AutomateSession::GetValue(const std::string& path) {
 }
 
 void AutomateSession::SetValue(const std::string& path, const Json& value) {
-  auto lookup = [this](const std::string& n) { return ObjectNamed(n); };
+  SetVariant(path, JsonToVariant(value, [this](const std::string& n) { return ObjectNamed(n); }));
+}
+
+void AutomateSession::SetVariant(const std::string& path, const Variant& value) {
   if (path == "Clipboard") {
-    session_->SetClipboardText(VariantToString(JsonToVariant(value, lookup)));
+    session_->SetClipboardText(VariantToString(value));
     return;
   }
   if (IsRecordTablePath(path)) throw BadRequest("set: " + path + " is read-only");
@@ -296,7 +412,7 @@ void AutomateSession::SetValue(const std::string& path, const Json& value) {
   ObjectRef object = ObjectNamed(head);
   if (!object || member.empty()) throw PlatformError::MemberNotSupported(path);
   const auto [holder, last] = ResolveMember(object, member, path);
-  holder->SetProperty(last, JsonToVariant(value, lookup));
+  holder->SetProperty(last, value);
 }
 
 }  // namespace ferlan::tool

@@ -22,10 +22,13 @@ class AutomateSession {
   explicit AutomateSession(SurfaceKind surface);
   ~AutomateSession();
 
+  enum class Kind { Call, Keys, Set, Get, New, Log, Png, Reset };
+
   // The answer to one request line, without its line end. Never throws.
   std::string Handle(std::string_view line);
-  // Answers every line of `in` on `out` until the end of the input.
-  void Run(std::istream& in, std::ostream& out);
+  // Answers every line of `in` on `out` until the end of the input; false
+  // as soon as an answer cannot be written (the session then ends).
+  bool Run(std::istream& in, std::ostream& out);
 
  private:
   Json Call(const Json& request);
@@ -36,12 +39,17 @@ class AutomateSession {
   Json Log();
   Json Png(const Json& request);
   void Reset();
+  // The one kind of a request; raises for none, two, or a stray member.
+  static Kind KindOf(const Json& request);
 
   // The object a name prefix stands for in get/set and {"obj":...}.
   ObjectRef ObjectNamed(const std::string& name);
   std::string NameOf(const ObjectRef& object);
   Variant GetValue(const std::string& path);
   void SetValue(const std::string& path, const Json& value);
+  void SetVariant(const std::string& path, const Variant& value);
+  // Sets every `prefix`+name of `values`, or, when one fails, none.
+  void SetAll(const Json& values, const std::string& prefix);
 
   SurfaceKind surface_;
   std::unique_ptr<headless::Session> session_;

@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 namespace ferlan::tool {
@@ -80,10 +81,10 @@ Variant JsonToVariant(const Json& value, const ObjectLookup& lookup) {
       if (value.size() == 1 && value.contains("u16") && value["u16"].is_array()) {
         String text;
         for (const Json& unit : value["u16"]) {
-          if (!unit.is_number_unsigned() || unit.get<unsigned>() > 0xFFFF) {
+          if (!unit.is_number_unsigned() || unit.get<std::uint64_t>() > 0xFFFF) {
             throw PlatformError::TypeMismatch("u16 holds numbers from 0 to 65535");
           }
-          text += static_cast<char16_t>(unit.get<unsigned>());
+          text += static_cast<char16_t>(unit.get<std::uint64_t>());
         }
         return text;
       }

@@ -4,12 +4,25 @@
 
 #include "ferlan/automate_session.hpp"
 #include "ferlan/methods_command.hpp"
+#include "ferlan/version.hpp"
 
 namespace {
 
+constexpr const char* kUsage =
+    "usage: ferlan methods\n"
+    "       ferlan automate [--surface fixed|raster]\n"
+    "       ferlan run FILE\n"
+    "       ferlan help | --help | --version\n"
+    "\n"
+    "  methods     print the method table: dispatch identifier and name\n"
+    "  automate    answer JSON requests, one a line, from standard input\n"
+    "              --surface fixed|raster   the surface to draw on (fixed)\n"
+    "  run FILE    play FILE's requests in a window\n"
+    "  help, --help  print this usage\n"
+    "  --version     print the version of the package\n";
+
 int Usage() {
-  std::cerr << "usage: ferlan methods\n"
-               "       ferlan automate [--surface fixed|raster]\n";
+  std::cerr << kUsage;
   return 2;
 }
 
@@ -19,6 +32,14 @@ int main(int argc, char** argv) {
   using namespace ferlan::tool;
   if (argc < 2) return Usage();
   const std::string_view command = argv[1];
+  if ((command == "help" || command == "--help") && argc == 2) {
+    std::cout << kUsage << std::flush;
+    return std::cout ? 0 : 1;
+  }
+  if (command == "--version" && argc == 2) {
+    std::cout << "ferlan " << kFerlanVersion << '\n' << std::flush;
+    return std::cout ? 0 : 1;
+  }
   if (command == "methods" && argc == 2) {
     PrintMethods(std::cout);
     return 0;
@@ -41,7 +62,10 @@ int main(int argc, char** argv) {
       return 2;
     }
     AutomateSession session(*surface);
-    session.Run(std::cin, std::cout);
+    if (!session.Run(std::cin, std::cout)) {
+      std::cerr << "ferlan: an answer could not be written; the session ends\n";
+      return 1;
+    }
     return 0;
   }
   if (command == "run") {

@@ -24,6 +24,27 @@ TEST(FixedCanvasTest, MeasuresWithFixedMetrics) {
   }
 }
 
+TEST(FixedCanvasTest, ForgetsWhatAFillCoversAndBoundsTheRest) {
+  FixedCanvas canvas;
+  canvas.Text(105, 312, u"ab", forms::FontSpec{10, false}, 0);   // 105..315 x 312..507
+  canvas.Line(0, 0, 2000, 0, 0);                                  // partly outside the fill
+  canvas.FillBox(105, 312, 315, 507, 255);                       // the text's box, edges included
+  canvas.Text(105, 312, u"abc", forms::FontSpec{10, false}, 0);  // wider: stays
+  canvas.FillBox(315, 507, 105, 312, 0);                         // corners in any order
+  EXPECT_EQ(canvas.DescribeOps(),
+            "Line 0 0 2000 0 0\n"
+            "Text 105 312 0 10 \"abc\"\n"
+            "FillBox 315 507 105 312 0\n");
+  // Transparent texts cover nothing: past the limit the oldest are counted.
+  for (std::size_t i = 0; i < FixedCanvas::kOpsLimit * 2; ++i) {
+    canvas.Text(0, 0, u"x", forms::FontSpec{10, false}, 0);
+  }
+  EXPECT_LE(canvas.Ops().size(), FixedCanvas::kOpsLimit + FixedCanvas::kOpsLimit / 4);
+  EXPECT_EQ(canvas.Ops().size() + canvas.Dropped(), FixedCanvas::kOpsLimit * 2 + 3);
+  canvas.Clear(0);
+  EXPECT_EQ(canvas.Dropped(), 0u);
+}
+
 TEST(FixedCanvasTest, KeepsWhatWasDrawnSinceTheLastClear) {
   FixedCanvas canvas;
   canvas.FillBox(0, 0, 105, 195, 255);

@@ -53,7 +53,7 @@ TEST_F(DessinTest, DrawsTextBoxesLinesAndRaisedFramesAndClearsToTheBackColour) {
   dessin_.Cadre3D(zone_, 100, 200, u"Nom", 1000, 500, 2000, 395, u"3D", 0, u"G");
   EXPECT_EQ(Ops(zone_),
             "Text 210 312 255 10 \"Total\"\nLine 100 10 100 400 5\nFillBox 1 2 3 4 7\n"
-            "FillBox 105 312 1105 506 9\nFillBox 105 312 1105 506 12632256\n"
+            "FillBox 105 312 1105 506 12632256\n"  // hides the earlier fill of 9
             "Box 2895 1868 6105 2492 3\nFillBox 500 1000 2500 1395 100\n"
             "Line 500 1000 2500 1000 16777215\nLine 500 1000 500 1395 16777215\n"
             "Line 500 1395 2500 1395 4210752\nLine 2500 1000 2500 1395 4210752\n"
@@ -76,7 +76,7 @@ TEST_F(DessinTest, HauteurAndLargeurSetTheInnerSizeQueSiInfOnlyToGrow) {
 TEST_F(DessinTest, ResImageBringsBackTheLastSaveFirstOnEachSurface) {
   dessin_.Pave(zone_, 0, 0, 1, 1, 1);
   dessin_.MemImage(zone_);
-  dessin_.Pave(zone_, 0, 0, 2, 2, 2);
+  dessin_.Pave(zone_, 5, 5, 7, 7, 2);
   dessin_.MemImage(zone_);
   forms::PictureBox other{headless::FixedCanvasFactory()()};
   Prepare(other);
@@ -85,12 +85,12 @@ TEST_F(DessinTest, ResImageBringsBackTheLastSaveFirstOnEachSurface) {
   dessin_.Efface(other);
   dessin_.Efface(zone_);
   dessin_.ResImage(zone_);
-  EXPECT_EQ(Ops(zone_), "FillBox 0 0 1 1 1\nFillBox 0 0 2 2 2\n");
+  EXPECT_EQ(Ops(zone_), "FillBox 0 0 1 1 1\nFillBox 5 5 7 7 2\n");
   dessin_.ResImage(zone_);
   EXPECT_EQ(Ops(zone_), "FillBox 0 0 1 1 1\n");
-  dessin_.Pave(zone_, 0, 0, 4, 4, 4);
+  dessin_.Pave(zone_, 5, 5, 9, 9, 4);
   dessin_.ResImage(zone_);  // all brought back: nothing happens
-  EXPECT_EQ(Ops(zone_), "FillBox 0 0 1 1 1\nFillBox 0 0 4 4 4\n");
+  EXPECT_EQ(Ops(zone_), "FillBox 0 0 1 1 1\nFillBox 5 5 9 9 4\n");
   dessin_.ResImage(other);
   EXPECT_EQ(Ops(other), "FillBox 0 0 3 3 3\n");
 }

@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# The command's conventions, run as a user would: usage on standard output
+# with status 0 when asked for, on standard error with status 2 on a wrong
+# use; the version; a lost answer ends `automate` with a non-zero status.
+#   command_line_check.sh FERLAN VERSION
+set -uo pipefail
+ferlan=$1
+version=$2
+fail() { echo "FAIL: $*"; exit 1; }
+
+for ask in help --help; do
+  out=$("$ferlan" "$ask" 2>/dev/null) || fail "ferlan $ask exits $?"
+  for word in methods automate --surface fixed raster run help --help --version; do
+    grep -q -- "$word" <<<"$out" || fail "ferlan $ask does not name $word"
+  done
+done
+[ "$("$ferlan" --version)" = "ferlan $version" ] || fail "ferlan --version"
+for wrong in "" bogus "methods extra" "automate --bogus" "--help extra"; do
+  # shellcheck disable=SC2086
+  out=$("$ferlan" $wrong 2>/dev/null); status=$?
+  [ "$status" -eq 2 ] || fail "ferlan $wrong exits $status, not 2"
+  [ -z "$out" ] || fail "ferlan $wrong writes on standard output"
+done
+echo '{"call":"NbCol"}' | "$ferlan" automate >/dev/full 2>/dev/null && fail "a full output is ignored"
+echo '{"call":"NbCol"}' | "$ferlan" automate >&- 2>/dev/null && fail "a closed output is ignored"
+# With SIGPIPE ignored and the reader gone, the session ends by itself.
+(trap '' PIPE; yes '{"call":"NbCol"}' 2>/dev/null | timeout 60 "$ferlan" automate 2>/dev/null | head -n 1 >/dev/null
+ exit "${PIPESTATUS[1]}")
+status=$?
+[ "$status" -eq 1 ] || fail "with the reader gone, automate exits $status, not 1"
+echo "command line: as expected"
