@@ -8,6 +8,7 @@ packages=(
   clang libclang-rt-14-dev
   libcairo2-dev libfreetype-dev libfontconfig-dev fontconfig fonts-dejavu-core
   libncurses-dev  # the peer benchmark only
+  libsdl2-dev libx11-dev xvfb xdotool
 )
 
 missing=()

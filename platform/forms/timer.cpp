@@ -34,6 +34,11 @@ bool Timer::Due(std::int64_t now) const {
   return enabled_ && interval_ > 0 && !in_tick_ && now - started_at_ >= interval_;
 }
 
+std::int64_t Timer::NextDue() const {
+  if (!enabled_ || interval_ <= 0 || in_tick_) return -1;
+  return started_at_ + interval_;
+}
+
 void Timer::Fire(std::int64_t now) {
   started_at_ = now;
   if (!on_tick_) return;

@@ -27,6 +27,9 @@ class Timer final : public ferlan::Timer {
   // Enabled, with an interval, that interval elapsed since the last start or
   // tick, and not inside its own tick.
   bool Due(std::int64_t now) const;
+  // When the timer falls due if nothing changes it meanwhile, or -1 when it
+  // is stopped or inside its own tick.
+  std::int64_t NextDue() const;
   // Runs the tick and counts the next interval from `now`. A tick that calls
   // DoEvents doesn't see its own timer fire again meanwhile.
   void Fire(std::int64_t now);

@@ -136,17 +136,24 @@ void DrawCaret(cairo_t* cr, PictureBox& caret, const Inner& surface) {
 
 }  // namespace
 
-std::shared_ptr<forms::Bitmap> ComposeForm(Form& form, PictureBox* surface) {
+PixelSize FormPixelSize(Form& form) {
+  return {PixelsOfSize(form.ScaleWidth()), PixelsOfSize(form.ScaleHeight())};
+}
+
+void ComposeFormOnto(Form& form, PictureBox* surface, unsigned char* data, PixelSize size,
+                     int stride) {
   PictureBoxRef own_surface;
   if (surface == nullptr) {
     own_surface = std::dynamic_pointer_cast<PictureBox>(form.Member("ZoneAff"));
     if (!own_surface) throw PlatformError::TypeMismatch("ZoneAff is not a picture control");
     surface = own_surface.get();
   }
-  const int width = PixelsOfSize(form.ScaleWidth());
-  const int height = PixelsOfSize(form.ScaleHeight());
+  const int width = size.width;
+  const int height = size.height;
+  if (width <= 0 || height <= 0) return;
   std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)> owned_image(
-      cairo_image_surface_create(CAIRO_FORMAT_RGB24, width, height), &cairo_surface_destroy);
+      cairo_image_surface_create_for_data(data, CAIRO_FORMAT_RGB24, width, height, stride),
+      &cairo_surface_destroy);
   std::unique_ptr<cairo_t, decltype(&cairo_destroy)> owned_cr(cairo_create(owned_image.get()),
                                                               &cairo_destroy);
   cairo_surface_t* image = owned_image.get();
@@ -175,8 +182,14 @@ std::shared_ptr<forms::Bitmap> ComposeForm(Form& form, PictureBox* surface) {
   if (status != CAIRO_STATUS_SUCCESS) {
     throw PlatformError::Host("cairo", cairo_status_to_string(status));
   }
-  return BitmapOfWords(width, height, cairo_image_surface_get_data(image),
-                       cairo_image_surface_get_stride(image));
+}
+
+std::shared_ptr<forms::Bitmap> ComposeForm(Form& form, PictureBox* surface) {
+  const PixelSize size = FormPixelSize(form);
+  const int stride = cairo_format_stride_for_width(CAIRO_FORMAT_RGB24, size.width);
+  std::vector<unsigned char> data(static_cast<std::size_t>(stride) * size.height);
+  ComposeFormOnto(form, surface, data.data(), size, stride);
+  return BitmapOfWords(size.width, size.height, data.data(), stride);
 }
 
 void WriteFormPng(Form& form, const std::string& path, PictureBox* surface) {
