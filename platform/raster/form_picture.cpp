@@ -13,6 +13,7 @@
 
 #include "raster/picture_files.hpp"
 #include "raster/pixel_words.hpp"
+#include "forms/picture_box.hpp"
 #include "raster/raster_canvas.hpp"
 
 namespace ferlan::raster {
@@ -104,8 +105,12 @@ Inner DrawPictureBox(cairo_t* cr, PictureBox& box, int origin_x, int origin_y) {
     Fill(cr, left + 1, top + 1, w - 2, h - 2, kDarkShadow);
   }
   Fill(cr, inner.x, inner.y, inner.w, inner.h, box.BackColor());
-  PictureRef shown = box.Image();
-  if (const forms::Bitmap* drawn = AsBitmap(shown)) {
+  auto* own = dynamic_cast<forms::PictureBox*>(&box);
+  if (auto* raster = own ? dynamic_cast<const RasterCanvas*>(&own->GetCanvas()) : nullptr) {
+    // Straight from the canvas's pixels: the same picture as its snapshot.
+    raster->PaintOnto(cr, inner.x, inner.y, std::min(inner.w, raster->PixelWidth()),
+                      std::min(inner.h, raster->PixelHeight()));
+  } else if (const forms::Bitmap* drawn = AsBitmap(box.Image())) {
     PaintBitmap(cr, *drawn, inner.x, inner.y, std::min(inner.w, drawn->PixelWidth()),
                 std::min(inner.h, drawn->PixelHeight()));
   }

@@ -11,11 +11,12 @@
 
 #include "forms/control.hpp"
 #include "forms/form.hpp"
+#include "forms/picture_box.hpp"
 #include "kit/kit.hpp"
 #include "raster/form_picture.hpp"
 #include "raster/picture_files.hpp"
 #include "raster/pixel_words.hpp"
-#include "window/drawing_counter.hpp"
+#include "raster/raster_canvas.hpp"
 #include "window/system_clipboard.hpp"
 
 namespace ferlan::window {
@@ -27,6 +28,7 @@ constexpr Uint32 kButtonFace = 0x00F0F0F0;  // what shows beyond a smaller frame
 
 // What a control shows of itself; a frame is due when it changes.
 struct Look {
+  std::uint64_t drawn = 0;  // changes of its canvas
   Single left = 0, top = 0, width = 0, height = 0, scale_width = 0, scale_height = 0;
   Boolean visible = false;
   Long back = 0;
@@ -35,7 +37,6 @@ struct Look {
 };
 
 struct Scene {
-  std::uint64_t drawn = 0;
   Single scale_width = 0, scale_height = 0;
   const void* surface = nullptr;
   Look surface_look, toolbar, zone, caret;
@@ -55,6 +56,11 @@ Look LookOf(Control* control) {
     look.scale_height = box->ScaleHeight();
     look.back = box->BackColor();
     look.picture = box->Picture().get();
+  }
+  if (auto* own = dynamic_cast<forms::PictureBox*>(control)) {
+    if (auto* canvas = dynamic_cast<const raster::RasterCanvas*>(&own->GetCanvas())) {
+      look.drawn = canvas->Changes();
+    }
   }
   return look;
 }
@@ -98,7 +104,6 @@ bool DisplayAvailable(std::string* why) {
 struct Window::Impl {
   SDL_Window* window = nullptr;
   EventLoop loop;
-  DrawingCount drawn = std::make_shared<std::uint64_t>(0);
   std::weak_ptr<forms::Form> form;
   std::weak_ptr<kit::EnvState> env;
   // What the window shows now, so that the form's changes are told apart
@@ -152,7 +157,7 @@ std::unique_ptr<headless::Session> Window::OpenSession() {
   frontend.loop = &impl_->loop;
   frontend.screen = Screen();
   frontend.clipboard = SystemClipboard();
-  auto session = std::make_unique<headless::Session>(CountingRasterCanvases(impl_->drawn),
+  auto session = std::make_unique<headless::Session>(raster::RasterCanvasFactory(),
                                                      std::move(frontend));
   session->Global().SetPngDecoder(raster::DecodePng);
   impl_->form = session->FormRef();
@@ -202,7 +207,6 @@ bool Window::Present() {
   impl.Sync(*form);
   PictureBox* surface = env->surface.get();
   Scene scene;
-  scene.drawn = *impl.drawn;
   scene.scale_width = form->ScaleWidth();
   scene.scale_height = form->ScaleHeight();
   scene.surface = surface;
