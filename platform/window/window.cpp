@@ -297,7 +297,9 @@ void Window::Impl::Show() {
   SDL_Surface* target = SDL_GetWindowSurface(window);
   if (target == nullptr) return;
   if (target->w > frame_size.width || target->h > frame_size.height) {
-    SDL_FillRect(target, nullptr, SDL_MapRGB(target->format, 0xF0, 0xF0, 0xF0));
+    SDL_FillRect(target, nullptr,
+                 SDL_MapRGB(target->format, (kButtonFace >> 16) & 0xFF, (kButtonFace >> 8) & 0xFF,
+                            kButtonFace & 0xFF));
   }
   if (!frame.empty()) {
     SDL_Surface* source = SDL_CreateRGBSurfaceWithFormatFrom(

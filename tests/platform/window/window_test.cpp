@@ -220,7 +220,8 @@ TEST_F(WindowTest, RunPlaysASessionInAWindow) {
   const std::string out = ::testing::TempDir() + "ferlan_run_test.out";
   std::thread closer([&] {
     // The window stays up once the requests are played, until it closes.
-    for (int i = 0; i < 200 && !Xdotool("search --sync --name '^Ferlan$'"); ++i) {
+    for (int i = 0; i < 100 && !Xdotool("search --name '^Ferlan$'"); ++i) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(100));
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(500));
     FILE* p = popen("xdotool search --name '^Ferlan$' 2>/dev/null", "r");
