@@ -9,6 +9,7 @@ packages=(
   libcairo2-dev libfreetype-dev libfontconfig-dev fontconfig fonts-dejavu-core
   libncurses-dev  # the peer benchmark only
   locales
+  libsdl2-dev libx11-dev xvfb xdotool
 )
 
 missing=()

@@ -12,16 +12,18 @@ namespace {
 thread_local const Session* session_of_thread = nullptr;
 }  // namespace
 
-Session::Session(forms::CanvasFactory canvas_factory)
+Session::Session(forms::CanvasFactory canvas_factory, Frontend frontend)
     : canvas_factory_(std::move(canvas_factory)),
       loop_(clock_, keys_),
       env_(std::make_shared<kit::EnvState>()),
-      records_(std::make_shared<kit::Records>()),
-      global_(std::make_shared<forms::Global>(loop_, forms::Screen(kScreenWidth, kScreenHeight))) {
+      records_(std::make_shared<kit::Records>()) {
   FERLAN_ASSERT(session_of_thread == nullptr);  // one Session a thread at a time
   if (!canvas_factory_) canvas_factory_ = FixedCanvasFactory();
+  const forms::Screen screen = frontend.screen.value_or(forms::Screen(kScreenWidth, kScreenHeight));
+  global_ = std::make_shared<forms::Global>(frontend.loop ? *frontend.loop : loop_, screen,
+                                            std::move(frontend.clipboard));
 
-  form_ = std::make_shared<forms::Form>(kFormHandle, kScreenWidth, kScreenHeight);
+  form_ = std::make_shared<forms::Form>(kFormHandle, screen.Width(), screen.Height());
   form_->SetCaption(u"Ferlan");
   form_->SetWidth(kFormWidth);
   form_->SetHeight(kFormHeight);

@@ -26,6 +26,7 @@
 #include "forms/form.hpp"
 #include "forms/global.hpp"
 #include "forms/picture_box.hpp"
+#include "forms/screen.hpp"
 #include "headless/event_loop.hpp"
 #include "headless/fixed_canvas.hpp"
 #include "headless/key_script.hpp"
@@ -34,6 +35,15 @@
 #include "kit/kit.hpp"
 
 namespace ferlan::headless {
+
+// What another front-end brings to a session in place of the headless
+// one's: its event loop (null: the headless loop on the virtual clock), its
+// screen, and its clipboard (null: the in-process one).
+struct Frontend {
+  forms::EventLoop* loop = nullptr;
+  std::optional<forms::Screen> screen;
+  std::unique_ptr<ferlan::Clipboard> clipboard;
+};
 
 class Session {
  public:
@@ -47,7 +57,9 @@ class Session {
 
   // Pre: no other Session lives on this thread (each makes its apartment
   // current; a new one may follow when the last has gone).
-  explicit Session(forms::CanvasFactory canvas_factory = FixedCanvasFactory());
+  // Pre: `frontend.loop`, when given, outlives the Session.
+  explicit Session(forms::CanvasFactory canvas_factory = FixedCanvasFactory(),
+                   Frontend frontend = {});
   ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
@@ -55,6 +67,7 @@ class Session {
   // The environment the component's Env objects show, and what Erreur,
   // Boite and Aide received.
   kit::EnvState& Env() { return *env_; }
+  std::shared_ptr<kit::EnvState> EnvRef() const { return env_; }
   kit::Records& Records() { return *records_; }
   // An Env object over that state, for access by name ("ToucheEntree").
   ObjectRef EnvObject();

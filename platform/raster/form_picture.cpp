@@ -13,6 +13,7 @@
 
 #include "raster/picture_files.hpp"
 #include "raster/pixel_words.hpp"
+#include "forms/picture_box.hpp"
 #include "raster/raster_canvas.hpp"
 
 namespace ferlan::raster {
@@ -110,8 +111,12 @@ Inner DrawPictureBox(cairo_t* cr, PictureBox& box, int origin_x, int origin_y) {
     Fill(cr, left + 1, top + 1, w - 2, h - 2, kDarkShadow);
   }
   Fill(cr, inner.x, inner.y, inner.w, inner.h, box.BackColor());
-  PictureRef shown = box.Image();
-  if (const forms::Bitmap* drawn = AsBitmap(shown)) {
+  auto* own = dynamic_cast<forms::PictureBox*>(&box);
+  if (auto* raster = own ? dynamic_cast<const RasterCanvas*>(&own->GetCanvas()) : nullptr) {
+    // Straight from the canvas's pixels: the same picture as its snapshot.
+    raster->PaintOnto(cr, inner.x, inner.y, std::min(inner.w, raster->PixelWidth()),
+                      std::min(inner.h, raster->PixelHeight()));
+  } else if (const forms::Bitmap* drawn = AsBitmap(box.Image())) {
     PaintBitmap(cr, *drawn, inner.x, inner.y, std::min(inner.w, drawn->PixelWidth()),
                 std::min(inner.h, drawn->PixelHeight()));
   }
@@ -142,17 +147,24 @@ void DrawCaret(cairo_t* cr, PictureBox& caret, const Inner& surface) {
 
 }  // namespace
 
-std::shared_ptr<forms::Bitmap> ComposeForm(Form& form, PictureBox* surface) {
+PixelSize FormPixelSize(Form& form) {
+  return {PixelsOfSize(form.ScaleWidth()), PixelsOfSize(form.ScaleHeight())};
+}
+
+void ComposeFormOnto(Form& form, PictureBox* surface, unsigned char* data, PixelSize size,
+                     int stride) {
   PictureBoxRef own_surface;
   if (surface == nullptr) {
     own_surface = std::dynamic_pointer_cast<PictureBox>(form.Member("ZoneAff"));
     if (!own_surface) throw PlatformError::TypeMismatch("ZoneAff is not a picture control");
     surface = own_surface.get();
   }
-  const int width = PixelsOfSize(form.ScaleWidth());
-  const int height = PixelsOfSize(form.ScaleHeight());
+  const int width = size.width;
+  const int height = size.height;
+  if (width <= 0 || height <= 0) return;
   std::unique_ptr<cairo_surface_t, decltype(&cairo_surface_destroy)> owned_image(
-      cairo_image_surface_create(CAIRO_FORMAT_RGB24, width, height), &cairo_surface_destroy);
+      cairo_image_surface_create_for_data(data, CAIRO_FORMAT_RGB24, width, height, stride),
+      &cairo_surface_destroy);
   std::unique_ptr<cairo_t, decltype(&cairo_destroy)> owned_cr(cairo_create(owned_image.get()),
                                                               &cairo_destroy);
   cairo_surface_t* image = owned_image.get();
@@ -182,8 +194,22 @@ std::shared_ptr<forms::Bitmap> ComposeForm(Form& form, PictureBox* surface) {
 
   cairo_surface_flush(image);
   CheckCairo(cairo_status(cr));
-  return BitmapOfWords(width, height, cairo_image_surface_get_data(image),
-                       cairo_image_surface_get_stride(image));
+}
+
+std::shared_ptr<forms::Bitmap> ComposeForm(Form& form, PictureBox* surface) {
+  const PixelSize size = FormPixelSize(form);
+  // Cairo's own limit on an image side; checked before the buffer is made,
+  // so an oversized form is an error and never a huge allocation.
+  constexpr int kLargestSide = 32767;
+  if (size.width > kLargestSide || size.height > kLargestSide) {
+    CheckCairo(CAIRO_STATUS_INVALID_SIZE);
+  }
+  const int stride = cairo_format_stride_for_width(CAIRO_FORMAT_RGB24, std::max(size.width, 0));
+  if (stride < 0) CheckCairo(CAIRO_STATUS_INVALID_STRIDE);
+  std::vector<unsigned char> data(static_cast<std::size_t>(stride) *
+                                  static_cast<std::size_t>(std::max(size.height, 0)));
+  ComposeFormOnto(form, surface, data.data(), size, stride);
+  return BitmapOfWords(size.width, size.height, data.data(), stride);
 }
 
 void WriteFormPng(Form& form, const std::string& path, PictureBox* surface) {

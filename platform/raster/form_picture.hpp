@@ -32,6 +32,21 @@ namespace ferlan::raster {
 // canvas) show their back colour.
 std::shared_ptr<forms::Bitmap> ComposeForm(Form& form, PictureBox* surface = nullptr);
 
+// The size of ComposeForm's picture of `form`, in pixels.
+struct PixelSize {
+  int width = 0;
+  int height = 0;
+  friend bool operator==(const PixelSize&, const PixelSize&) = default;
+};
+PixelSize FormPixelSize(Form& form);
+
+// ComposeForm drawn into memory the caller owns, such as a window's frame:
+// `size` must be FormPixelSize(form); `data` holds its rows top first,
+// `stride` bytes apart, one 32-bit word 0x00RRGGBB a pixel in native byte
+// order (as pixel_words.hpp describes). The same pixels as ComposeForm.
+void ComposeFormOnto(Form& form, PictureBox* surface, unsigned char* data, PixelSize size,
+                     int stride);
+
 // ComposeForm written as a PNG file. Errors: Host when the file cannot be
 // written.
 void WriteFormPng(Form& form, const std::string& path, PictureBox* surface = nullptr);

@@ -155,6 +155,7 @@ Single RasterCanvas::TextHeight(StringView text, const forms::FontSpec& font) {
 }
 
 void RasterCanvas::Resize(Single width, Single height) {
+  ++changes_;
   int w = PixelsOfSize(width);
   int h = PixelsOfSize(height);
   if (w == surface_->width && h == surface_->height) return;
@@ -169,15 +170,18 @@ void RasterCanvas::Resize(Single width, Single height) {
 }
 
 void RasterCanvas::Clear(Long colour) {
+  ++changes_;
   surface_->background = WordOfColour(colour);
   surface_->FillPixels(0, 0, surface_->width, surface_->height, surface_->background);
 }
 
 void RasterCanvas::FillBox(Single x1, Single y1, Single x2, Single y2, Long colour) {
+  ++changes_;
   surface_->FillCorners(x1, y1, x2, y2, WordOfColour(colour));
 }
 
 void RasterCanvas::Box(Single x1, Single y1, Single x2, Single y2, Long colour) {
+  ++changes_;
   std::uint32_t pixel = WordOfColour(colour);
   Surface& s = *surface_;
   s.FillCorners(x1, y1, x2, y1, pixel);
@@ -187,6 +191,7 @@ void RasterCanvas::Box(Single x1, Single y1, Single x2, Single y2, Long colour) 
 }
 
 void RasterCanvas::Line(Single x1, Single y1, Single x2, Single y2, Long colour) {
+  ++changes_;
   std::uint32_t pixel = WordOfColour(colour);
   Surface& s = *surface_;
   double ends[4] = {PixelPosition(x1), PixelPosition(y1), PixelPosition(x2), PixelPosition(y2)};
@@ -210,6 +215,7 @@ void RasterCanvas::Line(Single x1, Single y1, Single x2, Single y2, Long colour)
 
 void RasterCanvas::Text(Single x, Single y, StringView text, const forms::FontSpec& font,
                         Long colour) {
+  ++changes_;
   Surface& s = *surface_;
   FontInstance& face = GlyphCache::ForThisThread().Instance(font.size, font.bold);
   const std::uint32_t pixel = WordOfColour(colour);
@@ -253,6 +259,7 @@ PictureRef RasterCanvas::Snapshot() {
 }
 
 void RasterCanvas::Paint(const Picture& picture, Single x, Single y) {
+  ++changes_;
   const auto* bitmap = dynamic_cast<const forms::Bitmap*>(&picture);
   if (bitmap == nullptr) throw PlatformError::InvalidCall("not a picture of pixels");
   const int w = bitmap->PixelWidth(), h = bitmap->PixelHeight();
@@ -270,6 +277,21 @@ void RasterCanvas::Paint(const Picture& picture, Single x, Single y) {
   cairo_set_source_rgb(s.cr, 0, 0, 0);
   cairo_surface_destroy(source);
   Check(cairo_status(s.cr), "painting a picture");
+}
+
+void RasterCanvas::PaintOnto(cairo_t* cr, int x, int y, int w, int h) const {
+  Surface& s = *surface_;
+  if (s.width == 0 || s.height == 0 || w <= 0 || h <= 0) return;
+  cairo_surface_flush(s.image);
+  cairo_save(cr);
+  cairo_rectangle(cr, x, y, w, h);
+  cairo_clip(cr);
+  cairo_translate(cr, x, y);
+  cairo_scale(cr, static_cast<double>(w) / s.width, static_cast<double>(h) / s.height);
+  cairo_set_source_surface(cr, s.image, 0, 0);
+  cairo_pattern_set_filter(cairo_get_source(cr), CAIRO_FILTER_NEAREST);
+  cairo_paint(cr);
+  cairo_restore(cr);
 }
 
 int RasterCanvas::PixelWidth() const { return surface_->width; }

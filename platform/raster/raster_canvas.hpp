@@ -14,10 +14,14 @@
 //  [ ] Line widths other than one pixel, dotted styles
 #pragma once
 
+#include <cstdint>
 #include <memory>
 
 #include "forms/canvas.hpp"
 #include "raster/pixel_words.hpp"
+
+// Cairo's drawing context, named without its header.
+typedef struct _cairo cairo_t;
 
 namespace ferlan::raster {
 
@@ -45,10 +49,18 @@ class RasterCanvas final : public forms::Canvas {
   int PixelHeight() const;
   // The colour of one pixel, 0x00BBGGRR.
   Long ColourAt(int x, int y) const;
+  // Counts the calls that changed what the canvas shows: a front-end that
+  // sees it unchanged has nothing new to present.
+  std::uint64_t Changes() const { return changes_; }
+  // What the canvas shows, painted at (x, y) stretched to w x h pixels with
+  // whole pixels repeated, as a snapshot of it would paint: composing the
+  // form without copying the canvas.
+  void PaintOnto(cairo_t* cr, int x, int y, int w, int h) const;
 
  private:
   struct Surface;
   std::unique_ptr<Surface> surface_;
+  std::uint64_t changes_ = 0;
 };
 
 // Canvases for new picture controls, for a forms runtime drawn in pixels.

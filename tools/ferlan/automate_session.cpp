@@ -117,13 +117,20 @@ AutomateSession::Kind AutomateSession::KindOf(const Json& request) {
   return found->kind;
 }
 
-AutomateSession::AutomateSession(SurfaceKind surface) : surface_(surface) { Reset(); }
+AutomateSession::AutomateSession(SurfaceKind surface, SessionFactory factory)
+    : surface_(surface), factory_(std::move(factory)) {
+  Reset();
+}
 
 AutomateSession::~AutomateSession() = default;
 
 void AutomateSession::Reset() {
   named_.clear();
   session_.reset();  // the old apartment ends before the new one begins
+  if (factory_) {
+    session_ = factory_();
+    return;
+  }
   session_ = std::make_unique<headless::Session>(CanvasFor(surface_));
 #if FERLAN_HAVE_RASTER
   // PNG decoding is the raster back-end's; BMP the forms runtime reads itself.

@@ -2,6 +2,7 @@
 // against a headless host session that `reset` replaces.
 #pragma once
 
+#include <functional>
 #include <iosfwd>
 #include <map>
 #include <memory>
@@ -19,7 +20,11 @@ namespace ferlan::tool {
 
 class AutomateSession {
  public:
-  explicit AutomateSession(SurfaceKind surface);
+  // Makes the session that a request runs against, at the start and at each
+  // `reset`: another front-end's (a window's) in place of the headless one.
+  using SessionFactory = std::function<std::unique_ptr<headless::Session>()>;
+
+  explicit AutomateSession(SurfaceKind surface, SessionFactory factory = nullptr);
   ~AutomateSession();
 
   enum class Kind { Call, Keys, Set, Get, New, Log, Png, Reset };
@@ -52,6 +57,7 @@ class AutomateSession {
   void SetAll(const Json& values, const std::string& prefix);
 
   SurfaceKind surface_;
+  SessionFactory factory_;
   std::unique_ptr<headless::Session> session_;
   std::map<std::string, ObjectRef> named_;  // objects made with `new`
 };

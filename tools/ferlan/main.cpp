@@ -1,9 +1,10 @@
-// The command: `ferlan methods` and `ferlan automate`.
+// The command: `ferlan methods`, `ferlan automate` and `ferlan run`.
 #include <iostream>
 #include <string_view>
 
 #include "ferlan/automate_session.hpp"
 #include "ferlan/methods_command.hpp"
+#include "ferlan/run_command.hpp"
 #include "ferlan/version.hpp"
 
 namespace {
@@ -68,9 +69,6 @@ int main(int argc, char** argv) {
     }
     return 0;
   }
-  if (command == "run") {
-    std::cerr << "ferlan: `run` (the screen player) is not built yet\n";
-    return 2;
-  }
+  if (command == "run" && argc == 3) return RunInWindow(argv[2], std::cout, std::cerr);
   return Usage();
 }

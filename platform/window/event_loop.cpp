@@ -1,0 +1,238 @@
+#include "window/event_loop.hpp"
+
+#include <SDL.h>
+
+#include <algorithm>
+#include <optional>
+
+#include "window/key_map.hpp"
+
+namespace ferlan::window {
+
+namespace {
+
+headless::KeyItem Keystroke(Integer vk, Integer mask) {
+  headless::KeyItem item;
+  item.has_down = true;
+  item.key_code = vk;
+  item.shift = mask;
+  return item;
+}
+
+}  // namespace
+
+EventLoop::EventLoop() : start_(std::chrono::steady_clock::now()) {}
+
+std::int64_t EventLoop::Now() const {
+  return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() -
+                                                               start_)
+      .count();
+}
+
+void EventLoop::DoEvents() {
+  Present();
+  Pump();
+  bool acted = DeliverOne();
+  acted = FireDueTimers() || acted;
+  if (!acted && keys_.empty() && idle_turns_++ > 0) {
+    const std::int64_t budget = SleepBudget();
+    if (budget > 0) {
+      SDL_Event event;
+      ++sleeps_;
+      if (SDL_WaitEventTimeout(&event, static_cast<int>(budget)) != 0) Handle(event);
+      Pump();
+      acted = DeliverOne();
+      acted = FireDueTimers() || acted;
+    }
+  }
+  if (acted) idle_turns_ = 0;
+  if (closed_ && write_abandon_) write_abandon_(true);
+  Present();
+}
+
+bool EventLoop::Present() {
+  const bool shown = present_ && present_();
+  if (shown) Unpark();
+  return shown;
+}
+
+void EventLoop::Unpark() {
+  for (TimerEntry& entry : timers_) entry.parked = false;
+}
+
+void EventLoop::Pump() {
+  SDL_Event event;
+  while (SDL_PollEvent(&event) != 0) Handle(event);
+}
+
+void EventLoop::Handle(const SDL_Event& event) {
+  switch (event.type) {
+    case SDL_QUIT:
+      Close();
+      return;
+    case SDL_KEYDOWN: {
+      const Integer mask = ShiftMaskOf(event.key.keysym.mod);
+      const auto vk = VirtualKeyOf(event.key.keysym.sym, event.key.keysym.scancode);
+      if (!vk) {
+        // A key the platform has no number for: what it types comes as
+        // characters of their own.
+        text_may_follow_ = false;
+        return;
+      }
+      headless::KeyItem item = Keystroke(*vk, mask);
+      if (const auto press = ControlKeyPress(*vk, mask)) {
+        item.has_press = true;
+        item.key_ascii = *press;
+      }
+      keys_.push_back(item);
+      text_may_follow_ = !item.has_press && TextReachesKeyPress(mask);
+      return;
+    }
+    case SDL_TEXTINPUT: {
+      const bool joins_key = text_may_follow_ && !keys_.empty();
+      text_may_follow_ = false;
+      if (joins_key && !TextReachesKeyPress(keys_.back().shift)) return;
+      bool first = true;
+      for (const Integer code : KeyPressCodesOf(event.text.text)) {
+        if (first && joins_key) {
+          keys_.back().has_press = true;
+          keys_.back().key_ascii = code;
+        } else {
+          // Text with no key of its own (an input method, a second
+          // character): the platform's packet key carries it.
+          headless::KeyItem item = Keystroke(headless::kPacketKey, 0);
+          item.has_press = true;
+          item.key_ascii = code;
+          keys_.push_back(item);
+        }
+        first = false;
+      }
+      return;
+    }
+    case SDL_WINDOWEVENT:
+      if (event.window.event == SDL_WINDOWEVENT_CLOSE) {
+        Close();
+        return;
+      }
+      text_may_follow_ = false;
+      idle_turns_ = 0;
+      Unpark();
+      if (window_events_) window_events_(event);
+      return;
+    default:
+      return;
+  }
+}
+
+void EventLoop::Close() {
+  closed_ = true;
+  keys_.clear();
+  if (write_abandon_) write_abandon_(true);
+}
+
+bool EventLoop::DeliverOne() {
+  if (keys_.empty()) return DeliverScriptItem();
+  // Copied out: a handler may run DoEvents and so move the queue.
+  const headless::KeyItem item = keys_.front();
+  keys_.pop_front();
+  if (keys_.empty()) text_may_follow_ = false;
+  Unpark();
+  if (!form_) return true;
+  // A handler that zeroes KeyCode does not stop the KeyPress.
+  Integer key_code = item.key_code;
+  form_->RaiseKeyDown(key_code, item.shift);
+  if (item.has_press) {
+    Integer key_ascii = item.key_ascii;
+    form_->RaiseKeyPress(key_ascii);
+  }
+  return true;
+}
+
+bool EventLoop::DeliverScriptItem() {
+  if (script_ == nullptr || script_->Empty() || closed_) return false;
+  headless::KeyItem& front = script_->Front();
+  if (front.kind == headless::KeyItem::Kind::Wait) {
+    const std::int64_t now = Now();
+    if (script_wait_until_ < 0) script_wait_until_ = now + front.wait_ms;
+    if (now < script_wait_until_) return false;
+    script_wait_until_ = -1;
+    script_->Pop();
+    return true;
+  }
+  const headless::KeyItem item = front;
+  script_->Pop();
+  if (item.kind == headless::KeyItem::Kind::Abandon) {
+    if (write_abandon_) write_abandon_(true);
+    return true;
+  }
+  keys_.push_back(item);
+  text_may_follow_ = false;
+  return DeliverOne();
+}
+
+TimerRef EventLoop::CreateTimer(std::function<void()> on_tick) {
+  auto timer = std::make_shared<forms::Timer>(std::move(on_tick), [this] { return Now(); });
+  timers_.push_back({timer});
+  return timer;
+}
+
+bool EventLoop::FireDueTimers() {
+  // Dropped timers leave the list only outside any tick, so that the walk
+  // of an outer DoEvents keeps its place when a tick runs DoEvents.
+  if (firing_depth_ == 0) {
+    std::erase_if(timers_, [](const TimerEntry& t) { return t.timer.expired(); });
+  }
+  std::vector<std::size_t> polling;  // the polling timers that ticked
+  bool scheduled = false;            // a timer of the resolution or longer ticked
+  ++firing_depth_;
+  try {
+    // By index: a tick may make a timer, which comes last.
+    for (std::size_t i = 0; i < timers_.size(); ++i) {
+      std::shared_ptr<forms::Timer> timer = timers_[i].timer.lock();
+      const std::int64_t now = Now();
+      if (timer && timer->Due(now) && now - timers_[i].last_fired >= kTimerResolutionMs) {
+        timers_[i].last_fired = now;
+        if (timer->Interval() < kTimerResolutionMs) {
+          polling.push_back(i);
+        } else {
+          scheduled = true;
+        }
+        timer->Fire(now);
+      }
+    }
+  } catch (...) {
+    --firing_depth_;
+    throw;
+  }
+  --firing_depth_;
+  if (polling.empty() && !scheduled) return false;
+  // A scheduled tick may have changed what the polling timers look at; a
+  // polling tick that changed nothing on the screen waits for news.
+  if (!Present() && !scheduled) {
+    for (std::size_t i : polling) {
+      if (i < timers_.size()) timers_[i].parked = true;
+    }
+  }
+  if (scheduled) Unpark();
+  return true;
+}
+
+std::int64_t EventLoop::SleepBudget() {
+  const std::int64_t now = Now();
+  std::int64_t next = now + kLongestSleepMs;
+  for (const TimerEntry& entry : timers_) {
+    const std::shared_ptr<forms::Timer> timer = entry.timer.lock();
+    if (!timer || entry.parked) continue;
+    const std::optional<std::int64_t> due = timer->NextDue();
+    if (!due) continue;
+    next = std::min(next, std::max(*due, entry.last_fired + kTimerResolutionMs));
+  }
+  if (script_ != nullptr && !script_->Empty() && !closed_) {
+    if (script_->Front().kind != headless::KeyItem::Kind::Wait) return 0;
+    if (script_wait_until_ >= 0) next = std::min(next, script_wait_until_);
+    else return 0;
+  }
+  return std::max<std::int64_t>(0, next - now);
+}
+
+}  // namespace ferlan::window

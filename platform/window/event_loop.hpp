@@ -1,0 +1,120 @@
+// The window front-end's event loop: keys from SDL as a person types them,
+// timers on the monotonic clock, both delivered inside DoEvents only.
+//
+// Keys: each DoEvents delivers at most one keystroke, its KeyDown and, for a
+// key that gives a character, its KeyPress, as the platform raises them;
+// keystrokes typed meanwhile queue in order (the key pipeline keeps one
+// pending key, so two in one DoEvents would lose the first). Keys of a key
+// script (the automate protocol's {"keys": ...}) follow once the keyboard's
+// are delivered; their {wait:N} is N real milliseconds.
+//
+// Timers: a timer fires when its interval has passed since it started or
+// last fired, and at least kTimerResolutionMs since it last fired. A timer
+// shorter than that resolution polls (the caret's follower, 1 ms): once a
+// tick of it changes nothing the window shows, it no longer wakes the loop
+// by itself; it ticks again when the loop wakes for anything else (a key, a
+// window event, another timer's tick, a frame drawn), and keeps ticking at
+// the resolution for as long as its ticks change what shows. Timers of the
+// resolution or longer keep their schedule.
+//
+// Idle: a DoEvents that finds nothing to do returns at once the first time;
+// when it is called again with still nothing to do (the caller is waiting
+// for a key), it sleeps in the system's wait for events until the next
+// event or timer deadline, kLongestSleepMs at most. A key wakes it at once.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "forms/event_loop.hpp"
+#include "forms/form.hpp"
+#include "forms/timer.hpp"
+#include "headless/key_script.hpp"
+
+union SDL_Event;
+
+namespace ferlan::window {
+
+class EventLoop final : public forms::EventLoop {
+ public:
+  // The finest step of the timers: one frame at 60 Hz. Shorter intervals
+  // (the caret's 1 ms follower) tick at this pace, which the eye cannot
+  // tell from faster and which keeps an idle field near zero processor.
+  static constexpr std::int64_t kTimerResolutionMs = 16;
+  static constexpr std::int64_t kLongestSleepMs = 500;
+
+  // Pre: SDL's video is initialised for the loop's lifetime.
+  EventLoop();
+
+  // The form whose handlers get the keys; without one keys are dropped.
+  void SetForm(std::shared_ptr<forms::Form> form) { form_ = std::move(form); }
+  // Keys queued by a script, delivered after the keyboard's; may be null.
+  // Pre: the script outlives its use here (set null before it goes).
+  void SetScript(headless::KeyScript* script) { script_ = script; }
+  // How Env.Abandon is written: when the window closes, and for {abandon}.
+  void SetAbandonWriter(std::function<void(Boolean)> write) { write_abandon_ = std::move(write); }
+  // Window events other than keys and closing (resize, expose, state).
+  void SetWindowEventHandler(std::function<void(const SDL_Event&)> handle) {
+    window_events_ = std::move(handle);
+  }
+  // Runs at the start and the end of each DoEvents and after timer ticks:
+  // the window shows there what was drawn, and says whether it presented a
+  // frame.
+  void SetFrameHook(std::function<bool()> present) { present_ = std::move(present); }
+
+  void DoEvents() override;
+  TimerRef CreateTimer(std::function<void()> on_tick) override;
+
+  // The window was closed: Env.Abandon is True from then on.
+  bool Closed() const { return closed_; }
+  // Milliseconds on the monotonic clock since the loop began.
+  std::int64_t Now() const;
+  // Times DoEvents slept, for the benchmark's count of wake-ups.
+  std::uint64_t Sleeps() const { return sleeps_; }
+  // Keystrokes translated but not yet delivered.
+  std::size_t PendingKeys() const { return keys_.size(); }
+
+ private:
+  struct TimerEntry {
+    std::weak_ptr<forms::Timer> timer;
+    std::int64_t last_fired = -kTimerResolutionMs;
+    bool parked = false;  // a polling timer whose last tick changed nothing
+  };
+
+  void Pump();
+  void Handle(const SDL_Event& event);
+  void Close();
+  // Delivers one keystroke; gives false when none is waiting.
+  bool DeliverOne();
+  bool DeliverScriptItem();
+  // Gives whether any timer fired.
+  bool FireDueTimers();
+  // Milliseconds until the next thing to do, kLongestSleepMs at most.
+  std::int64_t SleepBudget();
+  // Presents what was drawn; a frame wakes the polling timers.
+  bool Present();
+  void Unpark();
+
+  std::chrono::steady_clock::time_point start_;
+  std::shared_ptr<forms::Form> form_;
+  headless::KeyScript* script_ = nullptr;
+  std::function<void(Boolean)> write_abandon_;
+  std::function<void(const SDL_Event&)> window_events_;
+  std::function<bool()> present_;
+  std::deque<headless::KeyItem> keys_;
+  // The last keystroke queued may still take the text its key types.
+  bool text_may_follow_ = false;
+  // The end of a script's {wait:N} under way, or -1.
+  std::int64_t script_wait_until_ = -1;
+  std::vector<TimerEntry> timers_;
+  int firing_depth_ = 0;
+  int idle_turns_ = 0;
+  bool closed_ = false;
+  std::uint64_t sleeps_ = 0;
+};
+
+}  // namespace ferlan::window

@@ -1,0 +1,318 @@
+#include "window/window.hpp"
+
+#include <SDL.h>
+#include <SDL_syswm.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "forms/control.hpp"
+#include "forms/form.hpp"
+#include "forms/picture_box.hpp"
+#include "kit/kit.hpp"
+#include "raster/form_picture.hpp"
+#include "raster/picture_files.hpp"
+#include "raster/pixel_words.hpp"
+#include "raster/raster_canvas.hpp"
+#include "window/system_clipboard.hpp"
+
+namespace ferlan::window {
+
+namespace {
+
+constexpr Single kTwips = raster::kTwipsPerPixel;
+constexpr Uint32 kButtonFace = 0x00F0F0F0;  // what shows beyond a smaller frame
+
+// What a control shows of itself; a frame is due when it changes.
+struct Look {
+  std::uint64_t drawn = 0;  // changes of its canvas
+  Single left = 0, top = 0, width = 0, height = 0, scale_width = 0, scale_height = 0;
+  Boolean visible = false;
+  Long back = 0;
+  const Picture* picture = nullptr;
+  friend bool operator==(const Look&, const Look&) = default;
+};
+
+struct Scene {
+  Single scale_width = 0, scale_height = 0;
+  const void* surface = nullptr;
+  Look surface_look, toolbar, zone, caret;
+  friend bool operator==(const Scene&, const Scene&) = default;
+};
+
+Look LookOf(Control* control) {
+  Look look;
+  if (control == nullptr) return look;
+  look.left = control->Left();
+  look.top = control->Top();
+  look.width = control->Width();
+  look.height = control->Height();
+  look.visible = control->Visible();
+  if (auto* box = dynamic_cast<PictureBox*>(control)) {
+    look.scale_width = box->ScaleWidth();
+    look.scale_height = box->ScaleHeight();
+    look.back = box->BackColor();
+    look.picture = box->Picture().get();
+  }
+  if (auto* own = dynamic_cast<forms::PictureBox*>(control)) {
+    if (auto* canvas = dynamic_cast<const raster::RasterCanvas*>(&own->GetCanvas())) {
+      look.drawn = canvas->Changes();
+    }
+  }
+  return look;
+}
+
+Look MemberLook(forms::Form& form, std::string_view name) {
+  try {
+    return LookOf(dynamic_cast<Control*>(form.Member(name).get()));
+  } catch (const PlatformError&) {
+    return {};
+  }
+}
+
+// Starts SDL's video on a windowing system; gives why not when it can't.
+// SDL falls back to drivers without windows (the console's KMS/DRM, an
+// off-screen buffer) where no display is: those are no place for a form.
+std::optional<std::string> StartVideo() {
+  const char* x11 = std::getenv("DISPLAY");
+  const char* wayland = std::getenv("WAYLAND_DISPLAY");
+  if ((x11 == nullptr || *x11 == 0) && (wayland == nullptr || *wayland == 0)) {
+    return std::string("neither DISPLAY nor WAYLAND_DISPLAY is set");
+  }
+  if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) return std::string(SDL_GetError());
+  const std::string driver = SDL_GetCurrentVideoDriver() ? SDL_GetCurrentVideoDriver() : "";
+  if (driver == "x11" || driver == "wayland") return std::nullopt;
+  SDL_QuitSubSystem(SDL_INIT_VIDEO);
+  return "no windowing system; SDL offers only \"" + driver + "\"";
+}
+
+}  // namespace
+
+bool DisplayAvailable(std::string* why) {
+  if (auto error = StartVideo()) {
+    if (why) *why = *error;
+    return false;
+  }
+  SDL_QuitSubSystem(SDL_INIT_VIDEO);
+  return true;
+}
+
+
+struct Window::Impl {
+  SDL_Window* window = nullptr;
+  EventLoop loop;
+  std::weak_ptr<forms::Form> form;
+  std::weak_ptr<kit::EnvState> env;
+  // What the window shows now, so that the form's changes are told apart
+  // from the window manager's.
+  raster::PixelSize shown_size;
+  Integer shown_state = 0;
+  String shown_caption;
+  std::optional<Scene> scene;  // of the frame presented last
+  bool expose = false;
+  std::vector<std::uint32_t> frame;
+  raster::PixelSize frame_size;
+  // Read by benchmarks from another thread.
+  std::atomic<std::uint64_t> frames{0};
+  std::atomic<std::chrono::steady_clock::time_point> last_frame{};
+
+  void OnWindowEvent(const SDL_Event& event);
+  void Sync(forms::Form& form);
+  void Compose(forms::Form& form, PictureBox* surface);
+  void Show();
+};
+
+Window::Window(const std::string& title) : impl_(std::make_unique<Impl>()) {
+  // Frames go to the window as plain images (X11 shared memory), not
+  // through an OpenGL texture: a software GL would cost threads and time.
+  SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+  if (auto error = StartVideo()) throw PlatformError::Host("SDL", *error);
+  impl_->window = SDL_CreateWindow(title.c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
+                                   640, 480, SDL_WINDOW_RESIZABLE);
+  if (impl_->window == nullptr) {
+    const std::string error = SDL_GetError();
+    SDL_QuitSubSystem(SDL_INIT_VIDEO);
+    throw PlatformError::Host("SDL", error);
+  }
+  impl_->shown_size = {640, 480};
+  impl_->shown_caption = FromUtf8(title);
+  SDL_StartTextInput();
+  impl_->loop.SetWindowEventHandler([impl = impl_.get()](const SDL_Event& e) {
+    impl->OnWindowEvent(e);
+  });
+  impl_->loop.SetFrameHook([this] { return Present(); });
+}
+
+Window::~Window() {
+  impl_->loop.SetFrameHook(nullptr);
+  SDL_DestroyWindow(impl_->window);
+  SDL_QuitSubSystem(SDL_INIT_VIDEO);
+}
+
+std::unique_ptr<headless::Session> Window::OpenSession() {
+  headless::Frontend frontend;
+  frontend.loop = &impl_->loop;
+  frontend.screen = Screen();
+  frontend.clipboard = SystemClipboard();
+  auto session = std::make_unique<headless::Session>(raster::RasterCanvasFactory(),
+                                                     std::move(frontend));
+  session->Global().SetPngDecoder(raster::DecodePng);
+  impl_->form = session->FormRef();
+  impl_->env = session->EnvRef();
+  impl_->scene.reset();
+  impl_->loop.SetForm(session->FormRef());
+  impl_->loop.SetScript(&session->Keys());
+  impl_->loop.SetAbandonWriter([env = session->EnvRef()](Boolean v) { env->Abandon = v; });
+  if (Closed()) session->Env().Abandon = true;
+  SDL_ShowWindow(impl_->window);
+  Present();
+  return session;
+}
+
+EventLoop& Window::Loop() { return impl_->loop; }
+
+forms::Screen Window::Screen() const {
+  SDL_DisplayMode mode;
+  const int display = std::max(0, SDL_GetWindowDisplayIndex(impl_->window));
+  if (SDL_GetDesktopDisplayMode(display, &mode) != 0) {
+    return forms::Screen(headless::Session::kScreenWidth, headless::Session::kScreenHeight);
+  }
+  return forms::Screen(static_cast<Single>(mode.w) * kTwips, static_cast<Single>(mode.h) * kTwips);
+}
+
+bool Window::Closed() const { return impl_->loop.Closed(); }
+
+unsigned long Window::NativeHandle() const {
+  SDL_SysWMinfo info;
+  SDL_VERSION(&info.version);
+  if (SDL_GetWindowWMInfo(impl_->window, &info) != SDL_TRUE) return 0;
+#if defined(SDL_VIDEO_DRIVER_X11)
+  if (info.subsystem == SDL_SYSWM_X11) return static_cast<unsigned long>(info.info.x11.window);
+#endif
+  return 0;
+}
+
+std::uint64_t Window::Frames() const { return impl_->frames; }
+
+std::chrono::steady_clock::time_point Window::LastFrameTime() const { return impl_->last_frame; }
+
+bool Window::Present() {
+  Impl& impl = *impl_;
+  const std::shared_ptr<forms::Form> form = impl.form.lock();
+  const std::shared_ptr<kit::EnvState> env = impl.env.lock();
+  if (!form || !env || Closed()) return false;
+  impl.Sync(*form);
+  PictureBox* surface = env->surface.get();
+  Scene scene;
+  scene.scale_width = form->ScaleWidth();
+  scene.scale_height = form->ScaleHeight();
+  scene.surface = surface;
+  scene.surface_look = LookOf(surface);
+  scene.toolbar = MemberLook(*form, "BarreOutils");
+  scene.zone = MemberLook(*form, "zoneMessage");
+  scene.caret = MemberLook(*form, "Caret");
+  if (impl.scene == scene && !impl.expose) return false;
+  if (impl.scene != scene) {
+    if (surface == nullptr) return false;
+    impl.Compose(*form, surface);
+    impl.scene = scene;
+  }
+  impl.expose = false;
+  impl.Show();
+  return true;
+}
+
+void Window::Impl::Sync(forms::Form& f) {
+  if (f.Caption() != shown_caption) {
+    shown_caption = f.Caption();
+    SDL_SetWindowTitle(window, ToUtf8(shown_caption).c_str());
+  }
+  if (f.WindowState() != shown_state) {
+    shown_state = f.WindowState();
+    if (shown_state == 2) {
+      SDL_MaximizeWindow(window);
+    } else if (shown_state == 1) {
+      SDL_MinimizeWindow(window);
+    } else {
+      SDL_RestoreWindow(window);
+    }
+  }
+  const raster::PixelSize wanted = raster::FormPixelSize(f);
+  if (shown_state == 0 && wanted != shown_size && wanted.width > 0 && wanted.height > 0) {
+    shown_size = wanted;
+    SDL_SetWindowSize(window, wanted.width, wanted.height);
+  }
+}
+
+void Window::Impl::OnWindowEvent(const SDL_Event& event) {
+  const std::shared_ptr<forms::Form> f = form.lock();
+  switch (event.window.event) {
+    case SDL_WINDOWEVENT_EXPOSED:
+      expose = true;
+      return;
+    case SDL_WINDOWEVENT_SIZE_CHANGED: {
+      expose = true;
+      const raster::PixelSize now{event.window.data1, event.window.data2};
+      if (!f || now == shown_size || shown_state != 0) return;
+      // The person resized the window: the form takes its new inner size.
+      shown_size = now;
+      f->SetWidth(static_cast<Single>(now.width) * kTwips + forms::Form::kBorderX);
+      f->SetHeight(static_cast<Single>(now.height) * kTwips + forms::Form::kBorderY);
+      return;
+    }
+    case SDL_WINDOWEVENT_MAXIMIZED:
+    case SDL_WINDOWEVENT_MINIMIZED:
+    case SDL_WINDOWEVENT_RESTORED: {
+      expose = true;
+      const Integer state = event.window.event == SDL_WINDOWEVENT_MAXIMIZED   ? 2
+                            : event.window.event == SDL_WINDOWEVENT_MINIMIZED ? 1
+                                                                              : 0;
+      if (!f || state == shown_state) return;
+      shown_state = state;
+      f->SetWindowState(state);
+      return;
+    }
+    case SDL_WINDOWEVENT_FOCUS_GAINED:
+      if (auto e = env.lock(); e && f) e->active_window = f->hWnd();
+      return;
+    case SDL_WINDOWEVENT_FOCUS_LOST:
+      if (auto e = env.lock()) e->active_window = 0;
+      return;
+    default:
+      return;
+  }
+}
+
+void Window::Impl::Compose(forms::Form& f, PictureBox* surface) {
+  frame_size = raster::FormPixelSize(f);
+  frame.assign(static_cast<std::size_t>(frame_size.width) * frame_size.height, 0);
+  raster::ComposeFormOnto(f, surface, reinterpret_cast<unsigned char*>(frame.data()), frame_size,
+                          frame_size.width * 4);
+}
+
+void Window::Impl::Show() {
+  SDL_Surface* target = SDL_GetWindowSurface(window);
+  if (target == nullptr) return;
+  if (target->w > frame_size.width || target->h > frame_size.height) {
+    SDL_FillRect(target, nullptr,
+                 SDL_MapRGB(target->format, (kButtonFace >> 16) & 0xFF, (kButtonFace >> 8) & 0xFF,
+                            kButtonFace & 0xFF));
+  }
+  if (!frame.empty()) {
+    SDL_Surface* source = SDL_CreateRGBSurfaceWithFormatFrom(
+        frame.data(), frame_size.width, frame_size.height, 32, frame_size.width * 4,
+        SDL_PIXELFORMAT_RGB888);
+    if (source != nullptr) {
+      SDL_BlitSurface(source, nullptr, target, nullptr);
+      SDL_FreeSurface(source);
+    }
+  }
+  SDL_UpdateWindowSurface(window);
+  last_frame = std::chrono::steady_clock::now();
+  ++frames;
+}
+
+}  // namespace ferlan::window

@@ -1,0 +1,90 @@
+// The window front-end: the form as a real window on the person's display,
+// drawn by the raster surface and fed by the keyboard, through SDL.
+//
+// Implemented:
+//  [X] the form as a window: what it shows is the form as the PNG of the
+//      raster surface composes it (same composition, same pixels): back
+//      colour, toolbar, surface at its place, caret, message zone
+//  [X] a frame only when something was drawn or a control moved, showed,
+//      hid or resized; never in a loop; an uncovered window is re-shown
+//      from the last frame without drawing it again
+//  [X] keys as the platform raises them, one keystroke a DoEvents: KeyDown
+//      with the virtual key and Shift mask, then KeyPress with the character
+//      the system's text input typed (any layout, dead keys, AltGr) in
+//      Windows-1252, Ctrl+letter 1 to 26, Enter 13, Backspace 8, Tab 9,
+//      Escape 27 (key_map.hpp)
+//  [X] timers on the monotonic clock, fired inside DoEvents only, 16 ms
+//      resolution; a waiting DoEvents sleeps until the next event or
+//      deadline (event_loop.hpp)
+//  [X] the system clipboard (text), the display's size as Screen, Caption
+//      as the window's title, Width/Height resizing the window, the window
+//      manager's resize, maximise, minimise and restore reaching the form
+//      (its size, WindowState and resize handler)
+//  [X] Fenetres.Active follows the keyboard focus: the form's hWnd while the
+//      window has it, 0 while another window does
+//  [X] closing the window sets Env.Abandon, which ends every wait
+// Missing:
+//  [ ] the caption bar and frame are the window manager's: Form's fixed
+//      border room (kBorderX, kBorderY) is kept, whatever the real one is
+//  [ ] a maximised form reports the display's whole size, not the work
+//      area the window manager grants
+//  [ ] Left/Top are not applied to the window (the window manager places it)
+//  [ ] one window at a time: KyFSubst and other forms are not shown
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "forms/canvas.hpp"
+#include "forms/screen.hpp"
+#include "headless/session.hpp"
+#include "window/event_loop.hpp"
+
+namespace ferlan::window {
+
+// Whether a window can be opened (a display is there); when not, `why` gets
+// the reason in one line.
+bool DisplayAvailable(std::string* why = nullptr);
+
+class Window {
+ public:
+  // Opens a window, shown at once. Errors: PlatformError::Host("SDL", ...)
+  // when there is no display to open it on.
+  explicit Window(const std::string& title = "Ferlan");
+  ~Window();
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+
+  // A host session whose form this window shows from now on, with the
+  // window's event loop, screen, clipboard and canvases: keys typed in the
+  // window go to its form, and its key script ({"keys": ...}) follows them.
+  // Pre: the session goes before the window, and before OpenSession is
+  // called again only if nothing runs DoEvents in between.
+  std::unique_ptr<headless::Session> OpenSession();
+
+  EventLoop& Loop();
+  // The display's size in twips.
+  forms::Screen Screen() const;
+  // Brings the window up to date with the form (title, size, state) and
+  // presents a frame when something changed since the last. DoEvents does
+  // this itself; a host calls it after drawing outside a wait. Gives
+  // whether a frame was presented.
+  bool Present();
+  bool Closed() const;
+
+  // The system's handle of the window (an X11 Window), for tests that look
+  // at it from outside.
+  unsigned long NativeHandle() const;
+  // Frames presented so far, and when the last one was; these two may be
+  // read from another thread.
+  std::uint64_t Frames() const;
+  std::chrono::steady_clock::time_point LastFrameTime() const;
+
+ private:
+  struct Impl;
+  std::unique_ptr<Impl> impl_;
+};
+
+}  // namespace ferlan::window

@@ -1,0 +1,263 @@
+// The window as a person uses it, on a private X server: keys typed by
+// xdotool into the real window, the window's pixels read back from X.
+#include "window/window.hpp"
+
+#include <SDL.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <thread>
+
+#include "ferlan/kysaisie.hpp"
+#include "platform/window/x_display.hpp"
+#include "raster/form_picture.hpp"
+#include "raster/pixel_words.hpp"
+
+namespace ferlan::testing {
+namespace {
+
+using WindowTest = XvfbTest;
+
+// Lets the window map and show its first frames.
+void Settle(window::Window& window, int ms = 300) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(ms);
+  while (std::chrono::steady_clock::now() < end) window.Loop().DoEvents();
+}
+
+// A timer of the session's loop: its first tick runs `once` inside the
+// wait under way, so that what it starts finds the field waiting.
+TimerRef Once(headless::Session& session, Long after_ms, std::function<void()> once) {
+  auto done = std::make_shared<bool>(false);
+  TimerRef timer = session.Global().CreateTimer([done, once = std::move(once)] {
+    if (!*done) once();
+    *done = true;
+  });
+  timer->SetEnabled(true);
+  timer->SetInterval(after_ms);
+  return timer;
+}
+
+int Ink(std::uint32_t pixel, std::uint32_t ground) {
+  int d = 0;
+  for (int shift : {0, 8, 16}) {
+    d += std::abs(static_cast<int>((pixel >> shift) & 0xFF) -
+                  static_cast<int>((ground >> shift) & 0xFF));
+  }
+  return d;
+}
+
+TEST_F(WindowTest, APersonTypesAFieldAndTheWindowShowsIt) {
+  window::Window window("Ferlan test");
+  auto session = window.OpenSession();
+  KySaisie k;
+  k.InitKyF();
+  k.DimensionFeuille(12, 60);
+  k.Affiche(3, 2, u"I", u"Nom");
+  Settle(window);
+  const unsigned long id = window.NativeHandle();
+  ASSERT_NE(id, 0u);
+
+  // Typed as a person does, in the real window: an accented letter, a
+  // Ctrl+arrow back to the start of a word, and F2 to leave.
+  std::thread typist;
+  TimerRef start = Once(*session, 50, [&] {
+    typist = std::thread([id] {
+      const std::string w = std::to_string(id);
+      Xdotool("mousemove --window " + w + " 30 30");
+      Xdotool("windowfocus --sync " + w);
+      Xdotool("type --delay 30 'Zoé Durand'");
+      Xdotool("key --delay 30 ctrl+Left");
+      Xdotool("type --delay 30 'M '");
+      Xdotool("key F2");
+    });
+  });
+  TimerRef guard = Once(*session, 20000, [&] { session->Env().Abandon = true; });
+  String m;
+  Integer tr = 0;
+  const Single ct = k.WinCol(12);
+  k.ModD(m, u"A", 3, 12, ct, 30, tr);
+  typist.join();
+  ASSERT_FALSE(session->Env().Abandon) << "the keys did not reach the field within 20 s";
+  EXPECT_EQ(tr, 113);
+  // Typed over from the word's start, the editor's default mode.
+  EXPECT_EQ(m, u"Zoé M rand");
+
+  Settle(window);
+  int width = 0, height = 0;
+  const std::vector<std::uint32_t> shot = Screenshot(id, width, height);
+  PictureBox& surface = *session->Env().surface;
+  const auto composed = raster::ComposeForm(session->Form(), &surface);
+  ASSERT_EQ(width, composed->PixelWidth());
+  ASSERT_EQ(height, composed->PixelHeight());
+
+  // The window shows, pixel for pixel, the picture the PNG of this session
+  // holds.
+  int differing = 0;
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) {
+      const forms::Rgb p = composed->Pixel(x, y);
+      const std::uint32_t want = (p.r << 16) | (p.g << 8) | p.b;
+      differing += shot[static_cast<std::size_t>(y) * width + x] != want;
+    }
+  }
+  EXPECT_EQ(differing, 0);
+
+  // The text stands where the field is: ink from the field's left edge to
+  // about the width of what was typed, on the field's line.
+  const int border = raster::PixelOfTwips((surface.Width() - surface.ScaleWidth()) / 2);
+  const int left = raster::PixelOfTwips(surface.Left()) + border + raster::PixelOfTwips(ct);
+  const int top = raster::PixelOfTwips(surface.Top()) + border + raster::PixelOfTwips(k.WinLigne(3));
+  const int text_height = raster::PixelsOfSize(k.HauteurTexte());
+  const int text_width = raster::PixelsOfSize(surface.TextWidth(m));
+  const std::uint32_t ground = shot[static_cast<std::size_t>(top + text_height / 2) * width + left + text_width + 20];
+  int ink_left = width, ink_right = -1, ink = 0;
+  for (int y = top; y < top + text_height; ++y) {
+    for (int x = left - 10; x < left + text_width + 20; ++x) {
+      if (Ink(shot[static_cast<std::size_t>(y) * width + x], ground) > 200) {
+        ++ink;
+        ink_left = std::min(ink_left, x);
+        ink_right = std::max(ink_right, x);
+      }
+    }
+  }
+  EXPECT_GT(ink, 40);
+  EXPECT_NEAR(ink_left, left, 3);
+  EXPECT_NEAR(ink_right, left + text_width, 4);
+}
+
+TEST_F(WindowTest, ClosingTheWindowAbandonsTheWaitAndTheSession) {
+  window::Window window("Ferlan test");
+  auto session = window.OpenSession();
+  KySaisie k;
+  k.InitKyF();
+  k.DimensionFeuille(12, 60);
+  Settle(window);
+  const unsigned long id = window.NativeHandle();
+  TimerRef close = Once(*session, 50, [&] { AskToClose(id); });
+  TimerRef guard = Once(*session, 20000, [&] { session->Env().Abandon = true; });
+  String m = u"abc";
+  Integer tr = -1;
+  k.ModD(m, u"A", 3, 12, k.WinCol(12), 30, tr);
+  EXPECT_TRUE(window.Closed());
+  EXPECT_TRUE(session->Env().Abandon);
+  // Every later wait ends at once too.
+  k.ModD(m, u"A", 4, 12, k.WinCol(12), 30, tr);
+  EXPECT_TRUE(session->Env().Abandon);
+}
+
+TEST_F(WindowTest, TheFormAndTheWindowFollowEachOther) {
+  window::Window window("Ferlan test");
+  auto session = window.OpenSession();
+  forms::Form& form = session->Form();
+  int resized = 0;
+  form.on_resize = [&] { ++resized; };
+  const unsigned long id = window.NativeHandle();
+
+  // The display's size, the caption as the title, Width and Height as the
+  // window's size.
+  EXPECT_EQ(session->Global().Screen().Width(), 1280 * 15);
+  EXPECT_EQ(session->Global().Screen().Height(), 1024 * 15);
+  form.SetCaption(u"Fiche client");
+  form.SetWidth(9000);
+  form.SetHeight(6450);
+  Settle(window);
+  char* name = nullptr;
+  XFetchName(display_, id, &name);
+  ASSERT_NE(name, nullptr);
+  EXPECT_STREQ(name, "Fiche client");
+  XFree(name);
+  XWindowAttributes attributes;
+  XGetWindowAttributes(display_, id, &attributes);
+  EXPECT_EQ(attributes.width, (9000 - 120) / 15);
+  EXPECT_EQ(attributes.height, (6450 - 450) / 15);
+
+  // The window manager's doings reach the form.
+  const int before = resized;
+  SDL_Event event{};
+  event.type = SDL_WINDOWEVENT;
+  event.window.event = SDL_WINDOWEVENT_MAXIMIZED;
+  SDL_PushEvent(&event);
+  window.Loop().DoEvents();
+  EXPECT_EQ(form.WindowState(), 2);
+  event.window.event = SDL_WINDOWEVENT_RESTORED;
+  SDL_PushEvent(&event);
+  window.Loop().DoEvents();
+  EXPECT_EQ(form.WindowState(), 0);
+  event.window.event = SDL_WINDOWEVENT_SIZE_CHANGED;
+  event.window.data1 = 700;
+  event.window.data2 = 500;
+  SDL_PushEvent(&event);
+  window.Loop().DoEvents();
+  EXPECT_EQ(form.ScaleWidth(), 700 * 15);
+  EXPECT_EQ(form.ScaleHeight(), 500 * 15);
+  EXPECT_GE(resized - before, 3);
+
+  // The system's clipboard, both ways.
+  session->Global().Clipboard().SetText(u"Prix 10 €");
+  EXPECT_EQ(session->Global().Clipboard().GetText(), u"Prix 10 €");
+  char* text = SDL_GetClipboardText();
+  EXPECT_STREQ(text, "Prix 10 \xE2\x82\xAC");
+  SDL_free(text);
+}
+
+// `ferlan run`: a session played in a window, keys queued for a demo, the
+// answers on standard output, and closing the window ends it.
+TEST_F(WindowTest, RunPlaysASessionInAWindow) {
+  const std::string file = ::testing::TempDir() + "ferlan_run_test.jsonl";
+  {
+    std::FILE* f = std::fopen(file.c_str(), "w");
+    ASSERT_NE(f, nullptr);
+    std::fputs(R"({"call":"InitKyF"}
+{"call":"DimensionFeuille","args":[12,60]}
+{"keys":"Caf\u00e9{Enter}"}
+{"call":"ModD","args":["","A",3,12,1260,20,0]}
+{"get":["Form.Caption"]}
+)", f);
+    std::fclose(f);
+  }
+  const std::string out = ::testing::TempDir() + "ferlan_run_test.out";
+  std::thread closer([&] {
+    // The window stays up once the requests are played, until it closes.
+    for (int i = 0; i < 100 && !Xdotool("search --name '^Ferlan$'"); ++i) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(500));
+    FILE* p = popen("xdotool search --name '^Ferlan$' 2>/dev/null", "r");
+    unsigned long id = 0;
+    if (p != nullptr) {
+      if (std::fscanf(p, "%lu", &id) != 1) id = 0;
+      pclose(p);
+    }
+    if (id != 0) AskToClose(id);
+  });
+  const int status = std::system((std::string(FERLAN_CLI) + " run " + file + " > " + out).c_str());
+  closer.join();
+  EXPECT_EQ(WEXITSTATUS(status), 0);
+  std::FILE* f = std::fopen(out.c_str(), "r");
+  ASSERT_NE(f, nullptr);
+  std::string answers;
+  char buffer[4096];
+  while (std::fgets(buffer, sizeof buffer, f) != nullptr) answers += buffer;
+  std::fclose(f);
+  EXPECT_EQ(std::count(answers.begin(), answers.end(), '\n'), 5) << answers;
+  EXPECT_NE(answers.find(R"("args":["Café","A",3,12,1260,20,13])"), std::string::npos) << answers;
+
+  // Without a display: one line, and status 2.
+  const std::string err = ::testing::TempDir() + "ferlan_run_test.err";
+  const int no_display = std::system(
+      ("env -u DISPLAY -u WAYLAND_DISPLAY " + std::string(FERLAN_CLI) + " run " + file + " > " +
+       out + " 2> " + err).c_str());
+  EXPECT_EQ(WEXITSTATUS(no_display), 2);
+  f = std::fopen(err.c_str(), "r");
+  ASSERT_NE(f, nullptr);
+  std::string message;
+  while (std::fgets(buffer, sizeof buffer, f) != nullptr) message += buffer;
+  std::fclose(f);
+  EXPECT_EQ(message.rfind("ferlan: no display", 0), 0u) << message;
+  EXPECT_EQ(std::count(message.begin(), message.end(), '\n'), 1) << message;
+}
+
+}  // namespace
+}  // namespace ferlan::testing
