@@ -22,7 +22,7 @@ Long Chaines::NbElements(const String& Liste) {
   ListReader reader(Liste);
   Long count = 0;
   while (!reader.AtEnd()) {
-    reader.Next();
+    reader.Skip();
     ++count;
   }
   return count;
@@ -34,7 +34,7 @@ String Chaines::Suivant(String& Liste) {
   ListReader reader(Liste);
   if (reader.AtEnd()) return {};
   String first = reader.Next();
-  Liste = reader.Remaining();
+  reader.DropRead(Liste);
   return first;
 }
 
@@ -42,8 +42,8 @@ String Chaines::Element(const String& Liste, Long I) {
   if (I < 1) return {};
   ListReader reader(Liste);
   for (Long k = 1; !reader.AtEnd(); ++k) {
-    String value = reader.Next();
-    if (k == I) return value;
+    if (k == I) return reader.Next();
+    reader.Skip();
   }
   return {};
 }

@@ -67,12 +67,7 @@ ListReader::ListReader(StringView list) : list_(list) {
   }
 }
 
-String ListReader::Next() {
-  if (at_end_) return {};
-  if (bare_) {
-    at_end_ = true;
-    return String(list_);
-  }
+std::size_t ListReader::ElementEnd() const {
   // The element runs to the first comma outside quotes and brackets. A stray
   // "]" does not take the depth below 0, so it reads as a plain character.
   std::size_t depth = 0;
@@ -92,7 +87,10 @@ String ListReader::Next() {
       break;
     }
   }
-  String value = Decode(body_.substr(pos_, stop - pos_));
+  return stop;
+}
+
+void ListReader::MovePast(std::size_t stop) {
   // Nothing after the last comma means no further element, so that a removal
   // always shortens the list.
   if (stop + 1 < body_.size()) {
@@ -100,16 +98,37 @@ String ListReader::Next() {
   } else {
     at_end_ = true;
   }
+}
+
+String ListReader::Next() {
+  if (at_end_) return {};
+  if (bare_) {
+    at_end_ = true;
+    return String(list_);
+  }
+  const std::size_t stop = ElementEnd();
+  String value = Decode(body_.substr(pos_, stop - pos_));
+  MovePast(stop);
   return value;
 }
 
-String ListReader::Remaining() const {
-  if (at_end_) return u"[]";
-  if (bare_) return String(list_);
-  String rest = u"[";
-  rest += body_.substr(pos_);
-  if (closed_) rest += u']';
-  return rest;
+void ListReader::Skip() {
+  if (at_end_) return;
+  if (bare_) {
+    at_end_ = true;
+    return;
+  }
+  MovePast(ElementEnd());
+}
+
+void ListReader::DropRead(String& list) const {
+  if (at_end_) {
+    list = u"[]";
+  } else if (!bare_) {
+    // The body starts after the opening bracket; the rest, closing bracket
+    // included, stays as it is.
+    list.erase(1, pos_);
+  }
 }
 
 String EncodeElement(StringView element) {

@@ -20,11 +20,18 @@ class ListReader {
   bool AtEnd() const { return at_end_; }
   // The next element. Pre: !AtEnd().
   String Next();
-  // The list of the elements not read yet, exactly "[]" when none is left.
-  // Invariant: once Next has run, shorter than the text given, or "[]".
-  String Remaining() const;
+  // Goes past the next element without decoding it, as Next does.
+  void Skip();
+  // Makes `list` the list of the elements not read yet, exactly "[]" when
+  // none is left, in place. Invariant: once Next has run, shorter than it
+  // was, or "[]". Pre: `list` is the text the reader reads, unchanged.
+  void DropRead(String& list) const;
 
  private:
+  // Where the element at pos_ ends in body_: its comma, or the end.
+  std::size_t ElementEnd() const;
+  void MovePast(std::size_t stop);
+
   StringView list_;
   StringView body_;         // the text between the brackets
   bool bare_ = false;       // a text without "[" in front: one element
