@@ -4,6 +4,7 @@
 // level. Sizes and places pass through a Long on their way back.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <random>
 #include <sstream>
@@ -44,11 +45,19 @@ std::string Screen(headless::Session& session) {
   if (auto* list = dynamic_cast<headless::DisplayListPicture*>(picture.get())) {
     for (const auto& op : list->Ops()) out << headless::Describe(op) << "\n";
   } else if (auto* bitmap = dynamic_cast<forms::Bitmap*>(picture.get())) {
+    // Only the whole pixels of the size as it comes back through a Long: a
+    // fractional width may lose its last, partial column on the way.
+    const auto twips = static_cast<Long>(forms::Bitmap::kTwipsPerPixel);
+    const int width = std::min<int>(bitmap->PixelWidth(), CLng(zone.Width()) / twips);
+    const int height = std::min<int>(bitmap->PixelHeight(), CLng(zone.Height()) / twips);
     std::uint64_t digest = 14695981039346656037u;  // FNV-1a
-    for (const forms::Rgb& p : bitmap->Pixels()) {
-      for (std::uint8_t byte : {p.r, p.g, p.b}) digest = (digest ^ byte) * 1099511628211u;
+    for (int y = 0; y < height; ++y) {
+      for (int x = 0; x < width; ++x) {
+        const forms::Rgb p = bitmap->Pixel(x, y);
+        for (std::uint8_t byte : {p.r, p.g, p.b}) digest = (digest ^ byte) * 1099511628211u;
+      }
     }
-    out << bitmap->PixelWidth() << "x" << bitmap->PixelHeight() << " pixels " << digest;
+    out << width << "x" << height << " pixels " << digest;
   }
   return out.str();
 }
