@@ -22,6 +22,8 @@ fi
 ferlan=$(realpath "${1:-build/ferlan}")
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
+# Examples name their files from the top of the tree (examples/logo.bmp).
+ln -s "$PWD/examples" "$scratch/examples"
 failed=0
 
 for script in examples/*.jsonl; do
