@@ -4,6 +4,7 @@
 #include <SDL_syswm.h>
 
 #include <atomic>
+#include <cstdio>
 #include <cstdlib>
 #include <optional>
 #include <string>
@@ -73,6 +74,22 @@ Look MemberLook(forms::Form& form, std::string_view name) {
   }
 }
 
+#if FERLAN_WINDOW_XLIB && defined(SDL_VIDEO_DRIVER_X11)
+// Xlib's own handler ends the process on any protocol error, such as a
+// request that races with a window already destroyed while it closes. That
+// must not end a person's session: say it once on standard error and go on.
+int ReportXError(Display* display, XErrorEvent* error) {
+  static std::atomic<bool> said{false};
+  if (!said.exchange(true)) {
+    char text[256] = {};
+    XGetErrorText(display, error->error_code, text, sizeof text);
+    std::fprintf(stderr, "ferlan: X error ignored: %s (request %d)\n", text,
+                 static_cast<int>(error->request_code));
+  }
+  return 0;
+}
+#endif
+
 // Starts SDL's video on a windowing system; gives why not when it can't.
 // SDL falls back to drivers without windows (the console's KMS/DRM, an
 // off-screen buffer) where no display is: those are no place for a form.
@@ -82,6 +99,10 @@ std::optional<std::string> StartVideo() {
   if ((x11 == nullptr || *x11 == 0) && (wayland == nullptr || *wayland == 0)) {
     return std::string("neither DISPLAY nor WAYLAND_DISPLAY is set");
   }
+#if FERLAN_WINDOW_XLIB && defined(SDL_VIDEO_DRIVER_X11)
+  // Before SDL starts, so that SDL's handler falls back on this one.
+  XSetErrorHandler(&ReportXError);
+#endif
   if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) return std::string(SDL_GetError());
   const std::string driver = SDL_GetCurrentVideoDriver() ? SDL_GetCurrentVideoDriver() : "";
   if (driver == "x11" || driver == "wayland") return std::nullopt;
