@@ -3,16 +3,12 @@
 // list given back consumed.
 #include <gtest/gtest.h>
 
-#include "ferlan/automate_session.hpp"
+#include "support/automate_fixture.hpp"
 
 namespace ferlan::tool {
 namespace {
 
-class MessagesAutomateTest : public ::testing::Test {
- protected:
-  Json Ask(std::string_view line) { return Json::parse(session.Handle(line)); }
-  AutomateSession session{SurfaceKind::Fixed};
-};
+using MessagesAutomateTest = AutomateFixture;
 
 TEST_F(MessagesAutomateTest, FontPropertiesAreReachedByNestedNames) {
   EXPECT_EQ(Ask(R"({"set":{"ZoneAff.Font.Size":12,"ZoneAff.Font.Bold":true}})")["ok"], true);

@@ -6,19 +6,17 @@
 #include <sstream>
 #include <streambuf>
 
-#include "ferlan/automate_session.hpp"
 #include "ferlan/request_reader.hpp"
+#include "support/automate_fixture.hpp"
 
 namespace ferlan::tool {
 namespace {
 
-class AutomateLimitsTest : public ::testing::Test {
+class AutomateLimitsTest : public AutomateFixture {
  protected:
-  Json Ask(std::string_view line) { return Json::parse(session.Handle(line)); }
   Json Value(const std::string& path) {
     return Ask(R"({"get":[")" + path + R"("]})")["values"][path];
   }
-  AutomateSession session{SurfaceKind::Fixed};
 };
 
 // Refuses every byte, as a closed or full output does.

@@ -2,16 +2,12 @@
 
 #include <sstream>
 
-#include "ferlan/automate_session.hpp"
+#include "support/automate_fixture.hpp"
 
 namespace ferlan::tool {
 namespace {
 
-class AutomateTest : public ::testing::Test {
- protected:
-  Json Ask(std::string_view line) { return Json::parse(session.Handle(line)); }
-  AutomateSession session{SurfaceKind::Fixed};
-};
+using AutomateTest = AutomateFixture;
 
 TEST_F(AutomateTest, CallAnswersResultAndArgumentsAfterTheCall) {
   EXPECT_EQ(session.Handle(R"({"call":"WinLigne","args":[2.5]})"),

@@ -2,16 +2,12 @@
 // a host sees it after Dorvi, read-only.
 #include <gtest/gtest.h>
 
-#include "ferlan/automate_session.hpp"
+#include "support/automate_fixture.hpp"
 
 namespace ferlan::tool {
 namespace {
 
-class RecordTableGetTest : public ::testing::Test {
- protected:
-  Json Ask(std::string_view line) { return Json::parse(session.Handle(line)); }
-  AutomateSession session{SurfaceKind::Fixed};
-};
+using RecordTableGetTest = AutomateFixture;
 
 TEST_F(RecordTableGetTest, WorkedScreenReadsBackByRecordNumber) {
   Ask(R"({"call":"AffPos","args":[4]})");
