@@ -10,7 +10,7 @@
 #include <string>
 #include <string_view>
 
-#include "ferlan/automate_session.hpp"
+#include "cli/automate_session.hpp"
 
 namespace {
 

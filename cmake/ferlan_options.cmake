@@ -11,9 +11,11 @@ function(ferlan_set_options target)
   if(FERLAN_WERROR)
     target_compile_options(${target} PRIVATE -Werror)
   endif()
+  # Private: each of our targets asks for the sanitizers itself, and an
+  # installed library never passes them on to a host.
   if(FERLAN_SANITIZE)
-    target_compile_options(${target} PUBLIC -fsanitize=address,undefined -fno-omit-frame-pointer
+    target_compile_options(${target} PRIVATE -fsanitize=address,undefined -fno-omit-frame-pointer
       -fno-sanitize-recover=all)
-    target_link_options(${target} PUBLIC -fsanitize=address,undefined)
+    target_link_options(${target} PRIVATE -fsanitize=address,undefined)
   endif()
 endfunction()

@@ -9,7 +9,7 @@
 #include <sstream>
 #include <string>
 
-#include "ferlan/automate_session.hpp"
+#include "cli/automate_session.hpp"
 #include "fuzz_text.hpp"
 
 using ferlan::fuzz::Fail;

@@ -20,6 +20,9 @@
 
 #include "ferlan/runtime.hpp"
 #include "ferlan/variant.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan {
 
@@ -352,3 +355,5 @@ class ClassRegistry {
 };
 
 }  // namespace ferlan
+
+FERLAN_PUBLIC_END

@@ -23,6 +23,9 @@
 
 #include "ferlan/host.hpp"
 #include "ferlan/runtime.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan {
 
@@ -225,3 +228,5 @@ class KySaisie {
 };
 
 }  // namespace ferlan
+
+FERLAN_PUBLIC_END

@@ -10,6 +10,9 @@
 
 #include "ferlan/kysaisie.hpp"
 #include "ferlan/variant.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan {
 
@@ -39,3 +42,5 @@ std::span<const MethodInfo> MethodTable();
 const MethodInfo* FindMethod(std::string_view name);
 
 }  // namespace ferlan
+
+FERLAN_PUBLIC_END

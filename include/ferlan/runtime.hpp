@@ -8,6 +8,9 @@
 #include <limits>
 #include <string>
 #include <string_view>
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan {
 
@@ -148,3 +151,5 @@ class Fixed {
 };
 
 }  // namespace ferlan
+
+FERLAN_PUBLIC_END

@@ -8,6 +8,9 @@
 
 #include "ferlan/runtime.hpp"
 #include "ferlan/variant.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan {
 
@@ -21,3 +24,5 @@ Integer ScreenRecordCount();
 Variant ScreenRecordField(Long index, std::string_view field);
 
 }  // namespace ferlan
+
+FERLAN_PUBLIC_END

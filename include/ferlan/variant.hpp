@@ -7,6 +7,9 @@
 #include <variant>
 
 #include "ferlan/runtime.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan {
 
@@ -73,3 +76,5 @@ T VariantTo(const Variant& v) {
 }
 
 }  // namespace ferlan
+
+FERLAN_PUBLIC_END

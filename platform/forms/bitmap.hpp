@@ -6,6 +6,9 @@
 #include <vector>
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::forms {
 
@@ -39,3 +42,5 @@ class Bitmap final : public Picture {
 };
 
 }  // namespace ferlan::forms
+
+FERLAN_PUBLIC_END

@@ -8,6 +8,9 @@
 #include <span>
 
 #include "forms/bitmap.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::forms {
 
@@ -19,3 +22,5 @@ bool LooksLikeBmp(std::span<const std::uint8_t> bytes);
 std::shared_ptr<Bitmap> DecodeBmp(std::span<const std::uint8_t> bytes);
 
 }  // namespace ferlan::forms
+
+FERLAN_PUBLIC_END

@@ -9,6 +9,9 @@
 #include <memory>
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::forms {
 
@@ -40,3 +43,5 @@ class Canvas {
 using CanvasFactory = std::function<std::unique_ptr<Canvas>()>;
 
 }  // namespace ferlan::forms
+
+FERLAN_PUBLIC_END

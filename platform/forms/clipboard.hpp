@@ -3,6 +3,9 @@
 #pragma once
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::forms {
 
@@ -22,3 +25,5 @@ class Clipboard final : public ferlan::Clipboard {
 };
 
 }  // namespace ferlan::forms
+
+FERLAN_PUBLIC_END

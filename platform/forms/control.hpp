@@ -5,6 +5,9 @@
 #include "ferlan/host.hpp"
 #include "forms/placed.hpp"
 #include "forms/property_table.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::forms {
 
@@ -23,3 +26,5 @@ class Control : public Placed<ferlan::Control> {
 class Toolbar final : public Control {};
 
 }  // namespace ferlan::forms
+
+FERLAN_PUBLIC_END

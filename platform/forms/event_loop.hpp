@@ -7,6 +7,9 @@
 #include <functional>
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::forms {
 
@@ -23,3 +26,5 @@ class EventLoop {
 };
 
 }  // namespace ferlan::forms
+
+FERLAN_PUBLIC_END

@@ -4,6 +4,9 @@
 
 #include "ferlan/host.hpp"
 #include "forms/canvas.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::forms {
 
@@ -29,3 +32,5 @@ class Font final : public ferlan::Font {
 };
 
 }  // namespace ferlan::forms
+
+FERLAN_PUBLIC_END

@@ -10,6 +10,9 @@
 #include <vector>
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::forms {
 
@@ -92,3 +95,5 @@ class Form final : public ferlan::Form {
 };
 
 }  // namespace ferlan::forms
+
+FERLAN_PUBLIC_END

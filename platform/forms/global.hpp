@@ -11,6 +11,9 @@
 #include "forms/clipboard.hpp"
 #include "forms/event_loop.hpp"
 #include "forms/screen.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::forms {
 
@@ -42,3 +45,5 @@ class Global final : public ferlan::Global {
 };
 
 }  // namespace ferlan::forms
+
+FERLAN_PUBLIC_END

@@ -11,6 +11,9 @@
 #include "forms/canvas.hpp"
 #include "forms/font.hpp"
 #include "forms/placed.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::forms {
 
@@ -82,3 +85,5 @@ class PictureBox final : public Placed<ferlan::PictureBox> {
 };
 
 }  // namespace ferlan::forms
+
+FERLAN_PUBLIC_END

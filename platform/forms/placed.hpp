@@ -3,6 +3,9 @@
 #pragma once
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::forms {
 
@@ -37,3 +40,5 @@ class Placed : public Interface {
 };
 
 }  // namespace ferlan::forms
+
+FERLAN_PUBLIC_END

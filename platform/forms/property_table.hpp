@@ -10,6 +10,9 @@
 #include <vector>
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::forms {
 
@@ -71,3 +74,5 @@ class PropertyTable {
 };
 
 }  // namespace ferlan::forms
+
+FERLAN_PUBLIC_END

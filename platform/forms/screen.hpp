@@ -2,6 +2,9 @@
 #pragma once
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::forms {
 
@@ -17,3 +20,5 @@ class Screen final : public ferlan::Screen {
 };
 
 }  // namespace ferlan::forms
+
+FERLAN_PUBLIC_END

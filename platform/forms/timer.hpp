@@ -8,6 +8,9 @@
 #include <optional>
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::forms {
 
@@ -48,3 +51,5 @@ class Timer final : public ferlan::Timer {
 };
 
 }  // namespace ferlan::forms
+
+FERLAN_PUBLIC_END

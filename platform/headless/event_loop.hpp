@@ -25,6 +25,9 @@
 #include "forms/timer.hpp"
 #include "headless/key_script.hpp"
 #include "headless/virtual_clock.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::headless {
 
@@ -81,3 +84,5 @@ class EventLoop final : public forms::EventLoop {
 };
 
 }  // namespace ferlan::headless
+
+FERLAN_PUBLIC_END

@@ -19,6 +19,9 @@
 #include <vector>
 
 #include "forms/canvas.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::headless {
 
@@ -99,3 +102,5 @@ class FixedCanvas final : public forms::Canvas {
 forms::CanvasFactory FixedCanvasFactory();
 
 }  // namespace ferlan::headless
+
+FERLAN_PUBLIC_END

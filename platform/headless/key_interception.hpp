@@ -4,6 +4,9 @@
 #pragma once
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::headless {
 
@@ -21,3 +24,5 @@ class KeyInterception final : public Object {
 };
 
 }  // namespace ferlan::headless
+
+FERLAN_PUBLIC_END

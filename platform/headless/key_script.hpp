@@ -29,6 +29,9 @@
 #include <vector>
 
 #include "ferlan/runtime.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::headless {
 
@@ -78,3 +81,5 @@ class KeyScript {
 };
 
 }  // namespace ferlan::headless
+
+FERLAN_PUBLIC_END

@@ -11,6 +11,9 @@
 #include <vector>
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::headless {
 
@@ -74,3 +77,5 @@ class RecordingDessin final : public Dessin {
 };
 
 }  // namespace ferlan::headless
+
+FERLAN_PUBLIC_END

@@ -33,6 +33,9 @@
 #include "headless/recording_dessin.hpp"
 #include "headless/virtual_clock.hpp"
 #include "kit/kit.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::headless {
 
@@ -112,3 +115,5 @@ class Session {
 };
 
 }  // namespace ferlan::headless
+
+FERLAN_PUBLIC_END

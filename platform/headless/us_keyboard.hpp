@@ -7,6 +7,9 @@
 #include <string_view>
 
 #include "headless/key_script.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::headless {
 
@@ -22,3 +25,5 @@ KeyItem TypeCharacter(char16_t c, Integer mask);
 std::optional<KeyItem> PressNamedKey(std::string_view name, Integer mask);
 
 }  // namespace ferlan::headless
+
+FERLAN_PUBLIC_END

@@ -3,6 +3,9 @@
 #pragma once
 
 #include <cstdint>
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::headless {
 
@@ -17,3 +20,5 @@ class VirtualClock {
 };
 
 }  // namespace ferlan::headless
+
+FERLAN_PUBLIC_END

@@ -5,6 +5,9 @@
 
 #include "ferlan/host.hpp"
 #include "kit/kit.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -19,3 +22,5 @@ class Aide : public ferlan::Aide {
 };
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

@@ -6,6 +6,9 @@
 #pragma once
 
 #include "ferlan/runtime.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -17,3 +20,5 @@ Single BinaryToSingle(StringView s);
 Double BinaryToDouble(StringView s);
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

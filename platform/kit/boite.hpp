@@ -7,6 +7,9 @@
 
 #include "ferlan/host.hpp"
 #include "kit/kit.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -23,3 +26,5 @@ class Boite : public ferlan::Boite {
 };
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

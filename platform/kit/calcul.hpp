@@ -8,6 +8,9 @@
 #pragma once
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -23,3 +26,5 @@ class Calcul : public ferlan::Calcul {
 };
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

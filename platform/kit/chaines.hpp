@@ -3,6 +3,9 @@
 #pragma once
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -23,3 +26,5 @@ class Chaines : public ferlan::Chaines {
 };
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

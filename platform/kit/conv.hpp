@@ -4,6 +4,9 @@
 #pragma once
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -43,3 +46,5 @@ class Conv : public ferlan::Conv {
 };
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

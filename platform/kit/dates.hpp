@@ -5,6 +5,9 @@
 #pragma once
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -16,3 +19,5 @@ class Dates : public ferlan::Dates {
 };
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

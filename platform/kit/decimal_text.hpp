@@ -4,6 +4,9 @@
 #pragma once
 
 #include "ferlan/runtime.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -24,3 +27,5 @@ String FixedText(Double v, int decimals);
 String ShortText(Double v, int significant);
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

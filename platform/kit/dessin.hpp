@@ -9,6 +9,9 @@
 
 #include "ferlan/host.hpp"
 #include "kit/kit.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -48,3 +51,5 @@ class Dessin : public ferlan::Dessin {
 };
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

@@ -6,6 +6,9 @@
 
 #include "ferlan/host.hpp"
 #include "kit/kit.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -20,3 +23,5 @@ class Entete : public ferlan::Entete {
 };
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

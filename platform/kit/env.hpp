@@ -9,6 +9,9 @@
 
 #include "ferlan/host.hpp"
 #include "kit/kit.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -75,3 +78,5 @@ class Env : public ferlan::Env {
 std::vector<std::string_view> EnvPropertyNames();
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

@@ -6,6 +6,9 @@
 
 #include "ferlan/host.hpp"
 #include "kit/kit.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -21,3 +24,5 @@ class Erreur : public ferlan::Erreur {
 };
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

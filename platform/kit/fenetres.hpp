@@ -7,6 +7,9 @@
 
 #include "ferlan/host.hpp"
 #include "kit/kit.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -21,3 +24,5 @@ class Fenetres : public ferlan::Fenetres {
 };
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

@@ -13,6 +13,9 @@
 #include <vector>
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -145,3 +148,5 @@ void RegisterKit(ClassRegistry& registry, std::shared_ptr<EnvState> env,
                  std::shared_ptr<Records> records);
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

@@ -7,6 +7,9 @@
 #include <cstddef>
 
 #include "ferlan/runtime.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -53,3 +56,5 @@ struct ListCheck {
 ListCheck CheckList(StringView list);
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

@@ -4,6 +4,9 @@
 #include <vector>
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -22,3 +25,5 @@ class Pile : public ferlan::Pile {
 };
 
 }  // namespace ferlan::kit
+
+FERLAN_PUBLIC_END

@@ -3,6 +3,9 @@
 #pragma once
 
 #include <string>
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::raster {
 
@@ -21,3 +24,5 @@ const FontFiles& DejaVuSansFiles();
 FontFiles FindDejaVuSans(const std::string& config_file = {});
 
 }  // namespace ferlan::raster
+
+FERLAN_PUBLIC_END

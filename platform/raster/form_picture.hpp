@@ -22,6 +22,9 @@
 
 #include "ferlan/host.hpp"
 #include "forms/bitmap.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::raster {
 
@@ -52,3 +55,5 @@ void ComposeFormOnto(Form& form, PictureBox* surface, unsigned char* data, Pixel
 void WriteFormPng(Form& form, const std::string& path, PictureBox* surface = nullptr);
 
 }  // namespace ferlan::raster
+
+FERLAN_PUBLIC_END

@@ -12,6 +12,9 @@
 #include <vector>
 
 #include "ferlan/runtime.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::raster {
 
@@ -107,3 +110,5 @@ void ForEachCodePoint(StringView text, F&& f) {
 }
 
 }  // namespace ferlan::raster
+
+FERLAN_PUBLIC_END

@@ -17,6 +17,9 @@
 #include <vector>
 
 #include "forms/bitmap.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::raster {
 
@@ -35,3 +38,5 @@ std::vector<std::uint8_t> EncodePng(const forms::Bitmap& bitmap);
 void WritePngFile(const forms::Bitmap& bitmap, const std::string& path);
 
 }  // namespace ferlan::raster
+
+FERLAN_PUBLIC_END

@@ -8,6 +8,9 @@
 #include <vector>
 
 #include "forms/bitmap.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::raster {
 
@@ -49,3 +52,5 @@ std::shared_ptr<forms::Bitmap> BitmapOfWords(int width, int height, const unsign
                                              int stride);
 
 }  // namespace ferlan::raster
+
+FERLAN_PUBLIC_END

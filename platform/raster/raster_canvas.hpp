@@ -19,6 +19,9 @@
 
 #include "forms/canvas.hpp"
 #include "raster/pixel_words.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 // Cairo's drawing context, named without its header.
 typedef struct _cairo cairo_t;
@@ -67,3 +70,5 @@ class RasterCanvas final : public forms::Canvas {
 forms::CanvasFactory RasterCanvasFactory();
 
 }  // namespace ferlan::raster
+
+FERLAN_PUBLIC_END

@@ -34,6 +34,9 @@
 #include "forms/form.hpp"
 #include "forms/timer.hpp"
 #include "headless/key_script.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 union SDL_Event;
 
@@ -118,3 +121,5 @@ class EventLoop final : public forms::EventLoop {
 };
 
 }  // namespace ferlan::window
+
+FERLAN_PUBLIC_END

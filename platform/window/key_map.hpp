@@ -9,6 +9,9 @@
 #include <vector>
 
 #include "ferlan/runtime.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::window {
 
@@ -47,3 +50,5 @@ bool TextReachesKeyPress(Integer mask);
 std::vector<Integer> KeyPressCodesOf(std::string_view utf8);
 
 }  // namespace ferlan::window
+
+FERLAN_PUBLIC_END

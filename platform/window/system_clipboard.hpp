@@ -5,6 +5,9 @@
 #include <memory>
 
 #include "ferlan/host.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::window {
 
@@ -13,3 +16,5 @@ namespace ferlan::window {
 std::unique_ptr<ferlan::Clipboard> SystemClipboard();
 
 }  // namespace ferlan::window
+
+FERLAN_PUBLIC_END

@@ -41,6 +41,9 @@
 #include "forms/screen.hpp"
 #include "headless/session.hpp"
 #include "window/event_loop.hpp"
+#include "ferlan/export.hpp"
+
+FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::window {
 
@@ -88,3 +91,5 @@ class Window {
 };
 
 }  // namespace ferlan::window
+
+FERLAN_PUBLIC_END

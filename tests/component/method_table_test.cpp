@@ -4,7 +4,7 @@
 #include <string>
 
 #include "ferlan/method_table.hpp"
-#include "ferlan/methods_command.hpp"
+#include "cli/methods_command.hpp"
 
 namespace ferlan {
 namespace {

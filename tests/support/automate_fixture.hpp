@@ -6,7 +6,7 @@
 
 #include <string_view>
 
-#include "ferlan/automate_session.hpp"
+#include "cli/automate_session.hpp"
 
 namespace ferlan::tool {
 

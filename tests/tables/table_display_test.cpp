@@ -6,7 +6,7 @@
 #include <string>
 
 #include "display/display_fixture.hpp"
-#include "ferlan/automate_session.hpp"
+#include "cli/automate_session.hpp"
 #include "kit/dessin.hpp"
 
 namespace ferlan::testing {

@@ -6,7 +6,7 @@
 #include <sstream>
 #include <streambuf>
 
-#include "ferlan/request_reader.hpp"
+#include "cli/request_reader.hpp"
 #include "support/automate_fixture.hpp"
 
 namespace ferlan::tool {

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "ferlan/automate_session.hpp"
+#include "cli/automate_session.hpp"
 
 namespace ferlan::tool {
 namespace {

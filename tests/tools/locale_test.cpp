@@ -10,7 +10,7 @@
 #include <filesystem>
 #include <string>
 
-#include "ferlan/automate_session.hpp"
+#include "cli/automate_session.hpp"
 #include "kit/calcul.hpp"
 #include "kit/conv.hpp"
 #include "kit/dates.hpp"

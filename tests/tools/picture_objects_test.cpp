@@ -9,7 +9,7 @@
 
 #include <unistd.h>
 
-#include "ferlan/automate_session.hpp"
+#include "cli/automate_session.hpp"
 
 namespace ferlan::tool {
 namespace {

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "ferlan/automate_session.hpp"
+#include "cli/automate_session.hpp"
 
 namespace ferlan::testing {
 

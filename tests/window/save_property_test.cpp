@@ -13,7 +13,7 @@
 
 #include "component/module_state.hpp"
 #include "ferlan/kysaisie.hpp"
-#include "ferlan/surface_choice.hpp"
+#include "cli/surface_choice.hpp"
 #include "forms/bitmap.hpp"
 #include "headless/fixed_canvas.hpp"
 #include "headless/session.hpp"

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "ferlan/json_values.hpp"
+#include "cli/json_values.hpp"
 
 namespace ferlan::tool {
 

@@ -1,10 +1,10 @@
-#include "ferlan/run_command.hpp"
+#include "cli/run_command.hpp"
 
 #include <fstream>
 #include <memory>
 #include <ostream>
 
-#include "ferlan/automate_session.hpp"
+#include "cli/automate_session.hpp"
 #if FERLAN_HAVE_WINDOW
 #include "window/window.hpp"
 #endif

@@ -2,10 +2,10 @@
 #include <iostream>
 #include <string_view>
 
-#include "ferlan/automate_session.hpp"
-#include "ferlan/methods_command.hpp"
-#include "ferlan/run_command.hpp"
-#include "ferlan/version.hpp"
+#include "cli/automate_session.hpp"
+#include "cli/methods_command.hpp"
+#include "cli/run_command.hpp"
+#include "cli/version.hpp"
 
 namespace {
 

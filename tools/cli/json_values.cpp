@@ -1,4 +1,4 @@
-#include "ferlan/json_values.hpp"
+#include "cli/json_values.hpp"
 
 #include <charconv>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "ferlan/request_reader.hpp"
+#include "cli/request_reader.hpp"
 
 #include <istream>
 #include <set>

@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
-#include "ferlan/json_values.hpp"
-#include "ferlan/surface_choice.hpp"
+#include "cli/json_values.hpp"
+#include "cli/surface_choice.hpp"
 
 namespace ferlan::headless {
 class Session;

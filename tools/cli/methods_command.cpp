@@ -1,4 +1,4 @@
-#include "ferlan/methods_command.hpp"
+#include "cli/methods_command.hpp"
 
 #include <cstdio>
 

@@ -1,14 +1,14 @@
-#include "ferlan/automate_session.hpp"
+#include "cli/automate_session.hpp"
 
 #include <istream>
 #include <ostream>
 #include <string>
 
 #include "ferlan/method_table.hpp"
-#include "ferlan/picture_objects.hpp"
-#include "ferlan/property_path.hpp"
-#include "ferlan/record_table_get.hpp"
-#include "ferlan/request_reader.hpp"
+#include "cli/picture_objects.hpp"
+#include "cli/property_path.hpp"
+#include "cli/record_table_get.hpp"
+#include "cli/request_reader.hpp"
 #include "headless/session.hpp"
 #if FERLAN_HAVE_RASTER
 #include "raster/form_picture.hpp"

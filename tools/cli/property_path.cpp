@@ -1,4 +1,4 @@
-#include "ferlan/property_path.hpp"
+#include "cli/property_path.hpp"
 
 #include "ferlan/host.hpp"
 

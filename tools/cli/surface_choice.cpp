@@ -1,4 +1,4 @@
-#include "ferlan/surface_choice.hpp"
+#include "cli/surface_choice.hpp"
 
 #include "headless/fixed_canvas.hpp"
 #if FERLAN_HAVE_RASTER

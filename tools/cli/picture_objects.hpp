@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "ferlan/json_values.hpp"
+#include "cli/json_values.hpp"
 #include "forms/picture_box.hpp"
 
 namespace ferlan::headless {

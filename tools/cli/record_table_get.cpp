@@ -1,4 +1,4 @@
-#include "ferlan/record_table_get.hpp"
+#include "cli/record_table_get.hpp"
 
 #include <charconv>
 

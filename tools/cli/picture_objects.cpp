@@ -1,4 +1,4 @@
-#include "ferlan/picture_objects.hpp"
+#include "cli/picture_objects.hpp"
 
 #include <fstream>
 #include <iterator>
