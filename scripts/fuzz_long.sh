@@ -4,7 +4,7 @@
 # second and the coverage (cov: edges, ft: features) it reached. Not part of
 # CI: with the default million runs it takes from minutes to an hour.
 #
-#   scripts/fuzz_long.sh [BUILD_DIR [RUNS]]     # defaults: build-asan 1000000
+#   scripts/fuzz_long.sh [BUILD_DIR [RUNS [NAME...]]]  # defaults: build-asan 1000000, all
 #
 # Each fuzzer starts from the seeds of fuzz/corpus/NAME when there are some,
 # and keeps what it finds in BUILD_DIR/fuzz-long/corpus/NAME, so that a second
@@ -15,11 +15,16 @@ set -uo pipefail
 cd "$(dirname "$0")/.."
 build=${1:-build-asan}
 runs=${2:-1000000}
+shift 2 2>/dev/null || shift $#
 work=$build/fuzz-long
 mkdir -p "$work"
 
 shopt -s nullglob
 fuzzers=("$build"/fuzz/*_fuzzer)
+if (($# > 0)); then
+  fuzzers=()
+  for name in "$@"; do fuzzers+=("$build/fuzz/$name"); done
+fi
 if ((${#fuzzers[@]} == 0)); then
   echo "fuzz_long: no fuzzer in $build/fuzz (configure with -DFERLAN_FUZZ=ON)" >&2
   exit 2
