@@ -25,6 +25,10 @@ void EventLoop::DoEvents() {
   last_idle_ = !acted && !fired;
 }
 
+bool EventLoop::Coalesces(const forms::Timer& timer) {
+  return timer.Interval() == kCoalescedIntervalMs;
+}
+
 std::int64_t EventLoop::Step() {
   if (!caller_idle_ || !last_idle_ || !caller_idle_()) return 1;
   std::int64_t limit = INT64_MAX;
@@ -36,7 +40,7 @@ std::int64_t EventLoop::Step() {
   }
   const std::int64_t now = clock_.Now();
   for (const auto& weak : timers_) {
-    if (auto timer = weak.lock()) {
+    if (auto timer = weak.lock(); timer && !Coalesces(*timer)) {
       if (auto due = timer->NextDue()) limit = std::min(limit, *due - now);
     }
   }
@@ -106,7 +110,8 @@ bool EventLoop::FireDueTimers() {
       std::shared_ptr<forms::Timer> timer = timers_[i].lock();
       const std::int64_t now = clock_.Now();
       if (timer && timer->Due(now)) {
-        fired = true;
+        // The tick of a coalescing timer leaves the loop idle.
+        fired = fired || !Coalesces(*timer);
         timer->Fire(now);
       }
     }

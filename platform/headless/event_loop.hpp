@@ -9,6 +9,13 @@
 // next timer, the end of the wait, starvation). Timers fire at the same
 // virtual times and as often; a long wait costs a few calls, not N.
 //
+// Except 1 ms timers, which coalesce over idle time as a platform's timer
+// messages do when it cannot keep up: their ticks do not stop a skip, and
+// one tick comes at its end, and again 1 ms after anything else happened
+// (a key, another timer). The caret follows its position with such a timer:
+// it then sees every change at the same time as with 1 ms steps, while a
+// long wait inside the field editor costs a few calls, not one a millisecond.
+//
 // Fakes: the keyboard (the key script) and the passing of time. When the
 // script has stayed empty for kStarvationMs while DoEvents keeps being
 // called, the component is waiting for keys that will never come: the loop
@@ -34,6 +41,7 @@ namespace ferlan::headless {
 class EventLoop final : public forms::EventLoop {
  public:
   static constexpr std::int64_t kStarvationMs = 10000;
+  static constexpr Long kCoalescedIntervalMs = 1;
 
   // Pre: `clock` and `script` outlive the loop.
   EventLoop(VirtualClock& clock, KeyScript& script);
@@ -66,8 +74,9 @@ class EventLoop final : public forms::EventLoop {
   // empty. Sets `acted` when a key or an {abandon} went out.
   bool DeliverOne(std::int64_t ms, bool& acted);
   void DropFinishedWaits();
-  // Gives whether any timer fired.
+  // Gives whether a timer fired that does not coalesce.
   bool FireDueTimers();
+  static bool Coalesces(const forms::Timer& timer);
 
   VirtualClock& clock_;
   KeyScript& script_;

@@ -2,6 +2,7 @@
 
 #include <iostream>
 #include <optional>
+#include <string>
 
 namespace ferlan::testing {
 
@@ -15,8 +16,10 @@ std::size_t SessionTest::Type(std::string_view script) {
   }
 }
 
-void SessionTest::Pump(int times) {
-  for (int i = 0; i < times; ++i) session.Loop().DoEvents();
+void SessionTest::Pump(int ms) {
+  // A wait bounds each step of the loop, so exactly `ms` pass.
+  session.Keys().Append("{wait:" + std::to_string(ms) + "}");
+  while (!session.Keys().Empty()) session.Loop().DoEvents();
 }
 
 void SessionTest::TearDown() {

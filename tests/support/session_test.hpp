@@ -20,8 +20,8 @@ class SessionTest : public ::testing::Test {
   // Queues a key script for the next waits; gives how many items it queued.
   // A bad script fails the test and queues nothing.
   std::size_t Type(std::string_view script);
-  // Runs DoEvents `times` times.
-  void Pump(int times = 1);
+  // Lets `ms` of virtual time pass through DoEvents, with no key.
+  void Pump(int ms = 1);
   // The Dessin calls since the last look, one a line ("EffaceRect 0 0 ...").
   std::string TakeLog() { return session.Recorder().TakeLogText(); }
 

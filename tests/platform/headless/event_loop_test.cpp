@@ -139,6 +139,41 @@ TEST_F(EventLoopTest, SkippingIdleTimeKeepsEveryTimeAndCount) {
   EXPECT_LT(skipped_calls, 3 * 16);
 }
 
+// A 1 ms timer coalesces over idle time, yet sees each change of a slower
+// timer 1 ms after it, as with 1 ms steps.
+TEST_F(EventLoopTest, OneMsTimerCoalescesYetSeesEveryChangeAtItsTime) {
+  const auto run = [this](bool skip) {
+    VirtualClock run_clock;
+    KeyScript run_script;
+    EventLoop run_loop{run_clock, run_script};
+    run_loop.SetForm(form);
+    if (skip) run_loop.SetIdleSkipping([] { return true; });
+    int blinks = 0;
+    int seen = 0;
+    std::string notes;
+    TimerRef blink = run_loop.CreateTimer([&] { ++blinks; });
+    TimerRef follow = run_loop.CreateTimer([&] {
+      if (seen != blinks) notes += std::to_string(run_clock.Now()) + " ";
+      seen = blinks;
+    });
+    blink->SetEnabled(true);
+    blink->SetInterval(500);
+    follow->SetEnabled(true);
+    follow->SetInterval(1);
+    run_script.Append("{wait:100000}");
+    while (!run_script.Empty()) run_loop.DoEvents();
+    blink->SetEnabled(false);
+    follow->SetEnabled(false);
+    return std::make_pair(notes, run_loop.Calls());
+  };
+  const auto [stepped, stepped_calls] = run(false);
+  const auto [skipped, skipped_calls] = run(true);
+  EXPECT_EQ(skipped, stepped);
+  EXPECT_EQ(stepped_calls, 100000);
+  // The blink's 200 ticks, each seen 1 ms later, and the skips between.
+  EXPECT_LE(skipped_calls, 3 * 200 + 3);
+}
+
 TEST_F(EventLoopTest, MaximalWaitsTakeAFewCallsAndStarvationStaysAtTenSeconds) {
   loop.SetIdleSkipping([] { return true; });
   script.Append("{wait:2147483647}{wait:2147483647}a");
