@@ -18,6 +18,7 @@
 #include <string_view>
 #include <vector>
 
+#include "ferlan/env_members.hpp"
 #include "ferlan/runtime.hpp"
 #include "ferlan/variant.hpp"
 #include "ferlan/export.hpp"
@@ -185,49 +186,12 @@ class Env : public Object {
   virtual FormRef KyF() = 0;                   // the main form, may be Nothing
   virtual PictureBoxRef ZoneAff() = 0;         // the drawing surface
   virtual void SetZoneAff(PictureBoxRef zone) = 0;
-  virtual Single CourantX() = 0;
-  virtual void SetCourantX(Single v) = 0;
-  virtual Single CourantY() = 0;
-  virtual void SetCourantY(Single v) = 0;
-  virtual Integer MargeX() = 0;
-  virtual Integer MargeY() = 0;
-  virtual Single TaillePolice() = 0;
-  // Palette.
-  virtual Long Noir() = 0;
-  virtual Long Bleu() = 0;
-  virtual Long Marron() = 0;
-  virtual Long CouleurB() = 0;
-  virtual Long Gris() = 0;
-  virtual Long GrisFonce() = 0;
-  virtual Long GrisClair() = 0;
-  virtual Long Rouge() = 0;
-  virtual Long Jaune() = 0;
-  virtual Long Blanc() = 0;
-  virtual Long GrisTresClair() = 0;
-  // Key codes, Shift x 1000 + KeyCode.
-  virtual Integer ToucheF1() = 0;
-  virtual Integer ToucheF12() = 0;
-  virtual Integer ToucheGauche() = 0;
-  virtual Integer ToucheDroite() = 0;
-  virtual Integer ToucheHaut() = 0;
-  virtual Integer ToucheBas() = 0;
-  virtual Integer TouchePageHaut() = 0;
-  virtual Integer TouchePageBas() = 0;
-  virtual Integer ToucheEntree() = 0;
-  virtual Integer ToucheVide() = 0;
-  virtual Integer ToucheRetour() = 0;
-  // Shared flags.
-  virtual Boolean ToucheVirtuelle() = 0;
-  virtual void SetToucheVirtuelle(Boolean v) = 0;
-  virtual Boolean SaisieOK() = 0;
-  virtual void SetSaisieOK(Boolean v) = 0;
-  virtual Boolean Abandon() = 0;
-  virtual void SetRubCourante(Long v) = 0;
-  // Title texts.
-  virtual String DateTitre() = 0;
-  virtual String CodeEnt() = 0;
-  virtual String NomEnt() = 0;
-  virtual String SujetAide() = 0;
+  // Every other member, from the one list of them.
+#define FERLAN_ENV_DECLARE(type, name, access, initial)      \
+  FERLAN_ENV_IF_GET_##access(virtual type name() = 0;)     \
+  FERLAN_ENV_IF_SET_##access(virtual void Set##name(type v) = 0;)
+  FERLAN_ENV_MEMBERS(FERLAN_ENV_DECLARE)
+#undef FERLAN_ENV_DECLARE
 };
 
 // Bracketed lists of texts; "[]" is the empty list.
