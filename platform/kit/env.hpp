@@ -22,6 +22,8 @@ class Env : public ferlan::Env {
 
   FormRef KyF() override { return state_->form; }
   PictureBoxRef ZoneAff() override { return state_->surface; }
+  Form* KyFView() override { return state_->form.get(); }
+  PictureBox* ZoneAffView() override { return state_->surface.get(); }
   void SetZoneAff(PictureBoxRef zone) override { state_->surface = std::move(zone); }
   Single CourantX() override { return state_->CourantX; }
   void SetCourantX(Single v) override { state_->CourantX = v; }
