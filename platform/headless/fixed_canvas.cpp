@@ -67,6 +67,7 @@ void FixedCanvas::Resize(Single width, Single height) {
 
 void FixedCanvas::Clear(Long colour) {
   background_ = colour;
+  for (DrawOp& op : ops_) Spare(op);
   ops_.clear();
   Reindex();
   dropped_ = 0;
@@ -94,6 +95,7 @@ void FixedCanvas::FillBox(Single x1, Single y1, Single x2, Single y2, Long colou
   }
   if (!covered_.empty()) {
     std::sort(covered_.begin(), covered_.end());
+    for (const std::size_t at : covered_) Spare(ops_[at]);
     covered_.push_back(ops_.size());
     // Each run of kept items between covered ones moves down at once.
     std::size_t kept = covered_.front();
@@ -123,7 +125,11 @@ void FixedCanvas::Text(Single x, Single y, StringView text, const forms::FontSpe
                        Long colour) {
   DrawOp op = Shape(DrawOp::Kind::Text, x, y, x + TextWidth(text, font),
                     y + TextHeight(text, font), colour);
-  op.text = String(text);
+  if (!spare_texts_.empty()) {
+    op.text = std::move(spare_texts_.back());
+    spare_texts_.pop_back();
+  }
+  op.text.assign(text);
   op.font = font;
   Add(std::move(op));
 }
@@ -179,6 +185,14 @@ void FixedCanvas::Index(const DrawOp& op) {
   ids_.push_back(id);
   const Single bottom = Bottom(op);
   if (!std::isnan(bottom)) by_bottom_[bottom].push_back(id);
+}
+
+void FixedCanvas::Spare(DrawOp& op) {
+  if (op.kind != DrawOp::Kind::Text || spare_texts_.size() == kSpareTexts ||
+      op.text.capacity() > kSpareRoom) {
+    return;
+  }
+  spare_texts_.push_back(std::move(op.text));
 }
 
 void FixedCanvas::Reindex() {

@@ -92,6 +92,8 @@ class FixedCanvas final : public forms::Canvas {
   // The index of bottoms made again from ops_ (after it is replaced or cut).
   void Reindex();
   void Index(const DrawOp& op);
+  // Keeps the text of an item that leaves the list for a text to come.
+  void Spare(DrawOp& op);
 
   Single width_ = 0;
   Single height_ = 0;
@@ -109,6 +111,11 @@ class FixedCanvas final : public forms::Canvas {
   // there are many (see Add).
   std::map<Single, std::vector<std::uint64_t>> by_bottom_;
   std::vector<std::size_t> covered_;  // scratch of FillBox
+  // Texts of items gone, whose room the next texts take: drawing a text
+  // then costs no allocation. At most kSpareTexts, none over kSpareRoom.
+  static constexpr std::size_t kSpareTexts = 256;
+  static constexpr std::size_t kSpareRoom = 1024;
+  std::vector<String> spare_texts_;
 };
 
 // Makes the canvas of each new picture control: a FixedCanvas.

@@ -47,38 +47,14 @@ std::string RecordingDessin::TakeLogText() {
   return text;
 }
 
-void RecordingDessin::Entry::Put(Single v) {
-  Arg& arg = args[count++];
-  arg.kind = Arg::Kind::Single;
-  arg.single = v;
-}
-
-void RecordingDessin::Entry::Put(Long v) {
-  Arg& arg = args[count++];
-  arg.kind = Arg::Kind::Long;
-  arg.long_value = v;
-}
-
-void RecordingDessin::Entry::Put(Boolean v) {
-  Arg& arg = args[count++];
-  arg.kind = Arg::Kind::Boolean;
-  arg.boolean = v;
-}
-
-void RecordingDessin::Entry::Put(const String& v) {
-  texts[text_count++].assign(v);
-  args[count++].kind = Arg::Kind::Text;
-}
-
-RecordingDessin::Entry& RecordingDessin::NextEntry() {
+RecordingDessin::Entry& RecordingDessin::GrowOrTurn() {
   if (count_ == kLogLimit) {
     Entry& oldest = slots_[head_];
     head_ = (head_ + 1) % kLogLimit;
     ++dropped_;
     return oldest;
   }
-  // Below the limit the ring has not turned: head_ is 0.
-  if (count_ == slots_.size()) slots_.emplace_back();
+  slots_.emplace_back();
   return slots_[count_++];
 }
 

@@ -88,10 +88,25 @@ class RecordingDessin final : public Dessin {
     std::array<Arg, kMaxArgs> args{};
     std::array<String, kMaxTexts> texts;
 
-    void Put(Single v);
-    void Put(Long v);
-    void Put(Boolean v);
-    void Put(const String& v);
+    void Put(Single v) {
+      Arg& arg = args[count++];
+      arg.kind = Arg::Kind::Single;
+      arg.single = v;
+    }
+    void Put(Long v) {
+      Arg& arg = args[count++];
+      arg.kind = Arg::Kind::Long;
+      arg.long_value = v;
+    }
+    void Put(Boolean v) {
+      Arg& arg = args[count++];
+      arg.kind = Arg::Kind::Boolean;
+      arg.boolean = v;
+    }
+    void Put(const String& v) {
+      texts[text_count++].assign(v);
+      args[count++].kind = Arg::Kind::Text;
+    }
   };
 
   template <class... Args>
@@ -103,7 +118,12 @@ class RecordingDessin final : public Dessin {
     (entry.Put(args), ...);
   }
   // The slot for the next call; when the log is full, the oldest one.
-  Entry& NextEntry();
+  // Below the limit the ring has not turned: head_ is 0.
+  Entry& NextEntry() {
+    if (count_ < slots_.size()) return slots_[count_++];
+    return GrowOrTurn();
+  }
+  Entry& GrowOrTurn();
   static DessinCall ToCall(const Entry& entry);
 
   std::shared_ptr<Dessin> inner_;
