@@ -142,6 +142,10 @@ class Form : public Object {
   // A control or object of the form by name ("BarreOutils", "Caret",
   // "zoneMessage", "ClavierKY"), looked up at each use; 438 when missing.
   virtual ObjectRef Member(std::string_view name) = 0;
+  // A number that changes whenever a member is added or replaced and that no
+  // other form shares, so that a caller may keep what Member gave while it
+  // stays the same. 0, the default, promises nothing: look up at each use.
+  virtual std::uint64_t MembersVersion() const { return 0; }
 };
 using FormRef = std::shared_ptr<Form>;
 
@@ -185,6 +189,10 @@ class Env : public Object {
  public:
   virtual FormRef KyF() = 0;                   // the main form, may be Nothing
   virtual PictureBoxRef ZoneAff() = 0;         // the drawing surface
+  // The same two without taking a share, for a use that ends before Env
+  // can change them.
+  virtual Form* KyFView() { return KyF().get(); }
+  virtual PictureBox* ZoneAffView() { return ZoneAff().get(); }
   virtual void SetZoneAff(PictureBoxRef zone) = 0;
   // Every other member, from the one list of them.
 #define FERLAN_ENV_DECLARE(type, name, access, initial)      \

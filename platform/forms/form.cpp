@@ -1,6 +1,7 @@
 #include "forms/form.hpp"
 
 #include <algorithm>
+#include <atomic>
 
 #include "forms/control.hpp"
 #include "forms/property_table.hpp"
@@ -8,6 +9,13 @@
 namespace ferlan::forms {
 
 namespace {
+
+// Versions of members, one count for every form, so that no two forms share one.
+std::uint64_t NextMembersVersion() {
+  static std::atomic<std::uint64_t> last{0};
+  return ++last;
+}
+
 const PropertyTable<Form>& Properties() {
   static const PropertyTable<Form> table{
       {"Left", [](Form& f) -> Variant { return f.Left(); },
@@ -35,7 +43,10 @@ const PropertyTable<Form>& Properties() {
 }  // namespace
 
 Form::Form(Long hwnd, Single maximised_width, Single maximised_height)
-    : hwnd_(hwnd), maximised_width_(maximised_width), maximised_height_(maximised_height) {}
+    : hwnd_(hwnd),
+      maximised_width_(maximised_width),
+      maximised_height_(maximised_height),
+      members_version_(NextMembersVersion()) {}
 
 Single Form::Width() const { return window_state_ == 2 ? maximised_width_ : width_; }
 
@@ -99,6 +110,7 @@ void Form::AddMember(std::string name, ObjectRef object) {
   } else {
     members_.emplace_back(std::move(name), std::move(object));
   }
+  members_version_ = NextMembersVersion();
   DockToolbars();
 }
 

@@ -4,6 +4,7 @@
 // kBorderY in every window state.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <utility>
@@ -60,6 +61,7 @@ class Form final : public ferlan::Form {
   void AddMember(std::string name, ObjectRef object);
   // Errors: 438 when the form has no member of that name.
   ObjectRef Member(std::string_view name) override;
+  std::uint64_t MembersVersion() const override { return members_version_; }
 
   // The host's event handlers; each may call back into the component.
   std::function<void(Integer& KeyCode, Integer Shift)> on_key_down;
@@ -92,6 +94,7 @@ class Form final : public ferlan::Form {
   Boolean key_preview_ = false;
   String caption_;
   std::vector<std::pair<std::string, ObjectRef>> members_;
+  std::uint64_t members_version_;
 };
 
 }  // namespace ferlan::forms

@@ -1,6 +1,7 @@
 #include "headless/fixed_canvas.hpp"
 
 #include <algorithm>
+#include <cmath>
 
 namespace ferlan::headless {
 
@@ -10,6 +11,13 @@ std::string Number(Single v) { return ToUtf8(NumberText(v)); }
 
 std::string Corners(const DrawOp& op) {
   return Number(op.x1) + " " + Number(op.y1) + " " + Number(op.x2) + " " + Number(op.y2);
+}
+
+Single Bottom(const DrawOp& op) { return std::max(op.y1, op.y2); }
+
+bool Inside(const DrawOp& op, Single left, Single top, Single right, Single bottom) {
+  return std::min(op.x1, op.x2) >= left && std::max(op.x1, op.x2) <= right &&
+         std::min(op.y1, op.y2) >= top && std::max(op.y1, op.y2) <= bottom;
 }
 
 DrawOp Shape(DrawOp::Kind kind, Single x1, Single y1, Single x2, Single y2, Long colour) {
@@ -59,7 +67,9 @@ void FixedCanvas::Resize(Single width, Single height) {
 
 void FixedCanvas::Clear(Long colour) {
   background_ = colour;
+  for (DrawOp& op : ops_) Spare(op);
   ops_.clear();
+  Reindex();
   dropped_ = 0;
 }
 
@@ -70,10 +80,36 @@ void FixedCanvas::FillBox(Single x1, Single y1, Single x2, Single y2, Long colou
   const Single right = std::max(x1, x2);
   const Single top = std::min(y1, y2);
   const Single bottom = std::max(y1, y2);
-  std::erase_if(ops_, [&](const DrawOp& op) {
-    return std::min(op.x1, op.x2) >= left && std::max(op.x1, op.x2) <= right &&
-           std::min(op.y1, op.y2) >= top && std::max(op.y1, op.y2) <= bottom;
-  });
+  covered_.clear();
+  // With a NaN top, lower_bound starts at the first edge; nothing passes
+  // Inside then.
+  for (auto edge = by_bottom_.lower_bound(top); edge != by_bottom_.end() && edge->first <= bottom;
+       ++edge) {
+    std::erase_if(edge->second, [&](std::uint64_t id) {
+      const auto at = static_cast<std::size_t>(
+          std::lower_bound(ids_.begin(), ids_.end(), id) - ids_.begin());
+      if (!Inside(ops_[at], left, top, right, bottom)) return false;
+      covered_.push_back(at);
+      return true;
+    });
+  }
+  if (!covered_.empty()) {
+    std::sort(covered_.begin(), covered_.end());
+    for (const std::size_t at : covered_) Spare(ops_[at]);
+    covered_.push_back(ops_.size());
+    // Each run of kept items between covered ones moves down at once.
+    std::size_t kept = covered_.front();
+    for (std::size_t i = 0; i + 1 < covered_.size(); ++i) {
+      const auto from = static_cast<std::ptrdiff_t>(covered_[i] + 1);
+      const auto to = static_cast<std::ptrdiff_t>(covered_[i + 1]);
+      const auto at = static_cast<std::ptrdiff_t>(kept);
+      std::move(ops_.begin() + from, ops_.begin() + to, ops_.begin() + at);
+      std::move(ids_.begin() + from, ids_.begin() + to, ids_.begin() + at);
+      kept += static_cast<std::size_t>(to - from);
+    }
+    ops_.erase(ops_.begin() + static_cast<std::ptrdiff_t>(kept), ops_.end());
+    ids_.erase(ids_.begin() + static_cast<std::ptrdiff_t>(kept), ids_.end());
+  }
   Add(Shape(DrawOp::Kind::FillBox, x1, y1, x2, y2, colour));
 }
 
@@ -89,7 +125,11 @@ void FixedCanvas::Text(Single x, Single y, StringView text, const forms::FontSpe
                        Long colour) {
   DrawOp op = Shape(DrawOp::Kind::Text, x, y, x + TextWidth(text, font),
                     y + TextHeight(text, font), colour);
-  op.text = String(text);
+  if (!spare_texts_.empty()) {
+    op.text = std::move(spare_texts_.back());
+    spare_texts_.pop_back();
+  }
+  op.text.assign(text);
   op.font = font;
   Add(std::move(op));
 }
@@ -109,6 +149,7 @@ void FixedCanvas::Paint(const Picture& picture, Single x, Single y) {
   if (x == 0 && y == 0 && right >= width_ && bottom >= height_) {
     background_ = list->Background();
     ops_ = list->Ops();
+    Reindex();
     return;
   }
   Add(Shape(DrawOp::Kind::FillBox, x, y, right, bottom, list->Background()));
@@ -128,7 +169,36 @@ void FixedCanvas::Add(DrawOp op) {
     const std::size_t excess = ops_.size() - kOpsLimit;
     ops_.erase(ops_.begin(), ops_.begin() + static_cast<std::ptrdiff_t>(excess));
     dropped_ += excess;
+    Reindex();
+    return;
   }
+  Index(ops_.back());
+  // Emptied edges are swept when they are many; an edge used again at once
+  // (a box drawn again where it was) keeps its room meanwhile.
+  if (by_bottom_.size() > ops_.size() + 64) {
+    std::erase_if(by_bottom_, [](const auto& edge) { return edge.second.empty(); });
+  }
+}
+
+void FixedCanvas::Index(const DrawOp& op) {
+  const std::uint64_t id = next_id_++;
+  ids_.push_back(id);
+  const Single bottom = Bottom(op);
+  if (!std::isnan(bottom)) by_bottom_[bottom].push_back(id);
+}
+
+void FixedCanvas::Spare(DrawOp& op) {
+  if (op.kind != DrawOp::Kind::Text || spare_texts_.size() == kSpareTexts ||
+      op.text.capacity() > kSpareRoom) {
+    return;
+  }
+  spare_texts_.push_back(std::move(op.text));
+}
+
+void FixedCanvas::Reindex() {
+  ids_.clear();
+  by_bottom_.clear();
+  for (const DrawOp& op : ops_) Index(op);
 }
 
 std::string FixedCanvas::DescribeOps() const {

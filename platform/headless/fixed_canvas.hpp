@@ -14,6 +14,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <map>
 #include <memory>
 #include <string>
 #include <vector>
@@ -90,12 +92,33 @@ class FixedCanvas final : public forms::Canvas {
 
  private:
   void Add(DrawOp op);
+  // The index of bottoms made again from ops_ (after it is replaced or cut).
+  void Reindex();
+  void Index(const DrawOp& op);
+  // Keeps the text of an item that leaves the list for a text to come.
+  void Spare(DrawOp& op);
 
   Single width_ = 0;
   Single height_ = 0;
   Long background_ = 0;
   std::vector<DrawOp> ops_;
   std::size_t dropped_ = 0;
+  // Each item of ops_ has a number, rising in the order of the list, so that
+  // the index below outlives the moves of items inside ops_.
+  std::vector<std::uint64_t> ids_;
+  std::uint64_t next_id_ = 0;
+  // The numbers of the items by their lower edge. An item covered by a box
+  // has its lower edge between the box's top and bottom, so a filled box
+  // looks only at the items of a few edges, not at the whole list. A NaN
+  // edge is never covered and not indexed. Emptied edges stay until
+  // there are many (see Add).
+  std::map<Single, std::vector<std::uint64_t>> by_bottom_;
+  std::vector<std::size_t> covered_;  // scratch of FillBox
+  // Texts of items gone, whose room the next texts take: drawing a text
+  // then costs no allocation. At most kSpareTexts, none over kSpareRoom.
+  static constexpr std::size_t kSpareTexts = 256;
+  static constexpr std::size_t kSpareRoom = 1024;
+  std::vector<String> spare_texts_;
 };
 
 // Makes the canvas of each new picture control: a FixedCanvas.

@@ -1,6 +1,5 @@
 #include "headless/recording_dessin.hpp"
 
-#include <iterator>
 #include <type_traits>
 
 namespace ferlan::headless {
@@ -32,9 +31,12 @@ RecordingDessin::RecordingDessin(std::shared_ptr<Dessin> inner) : inner_(std::mo
 }
 
 std::vector<DessinCall> RecordingDessin::TakeLog() {
-  std::vector<DessinCall> taken(std::make_move_iterator(log_.begin()),
-                                std::make_move_iterator(log_.end()));
-  std::deque<DessinCall>().swap(log_);
+  std::vector<DessinCall> taken;
+  taken.reserve(count_);
+  for (std::size_t i = 0; i < count_; ++i) taken.push_back(ToCall(slots_[(head_ + i) % slots_.size()]));
+  // The slots stay, with their texts' room, for the calls to come.
+  head_ = 0;
+  count_ = 0;
   dropped_ = 0;
   return taken;
 }
@@ -45,88 +47,115 @@ std::string RecordingDessin::TakeLogText() {
   return text;
 }
 
-void RecordingDessin::Record(std::string name, std::vector<Variant> args) {
-  if (log_.size() == kLogLimit) {
-    log_.pop_front();
+RecordingDessin::Entry& RecordingDessin::GrowOrTurn() {
+  if (count_ == kLogLimit) {
+    Entry& oldest = slots_[head_];
+    head_ = (head_ + 1) % kLogLimit;
     ++dropped_;
+    return oldest;
   }
-  log_.push_back({std::move(name), std::move(args)});
+  slots_.emplace_back();
+  return slots_[count_++];
+}
+
+DessinCall RecordingDessin::ToCall(const Entry& entry) {
+  DessinCall call{entry.name, {}};
+  call.args.reserve(entry.count);
+  std::size_t text = 0;
+  for (std::size_t i = 0; i < entry.count; ++i) {
+    const Arg& arg = entry.args[i];
+    switch (arg.kind) {
+      case Arg::Kind::Single:
+        call.args.emplace_back(arg.single);
+        break;
+      case Arg::Kind::Long:
+        call.args.emplace_back(arg.long_value);
+        break;
+      case Arg::Kind::Boolean:
+        call.args.emplace_back(arg.boolean);
+        break;
+      case Arg::Kind::Text:
+        call.args.emplace_back(entry.texts[text++]);
+        break;
+    }
+  }
+  return call;
 }
 
 // Each call is recorded before it is passed on, so a call that fails is in
 // the log too.
 Single RecordingDessin::TaillePolice(PictureBox& Zone) {
-  Record("TaillePolice", {});
+  Record("TaillePolice");
   return inner_->TaillePolice(Zone);
 }
 
 void RecordingDessin::Texte(PictureBox& Zone, Single X, Single Y, const String& Mes, Long Coul) {
-  Record("Texte", {X, Y, Mes, Coul});
+  Record("Texte", X, Y, Mes, Coul);
   inner_->Texte(Zone, X, Y, Mes, Coul);
 }
 
 void RecordingDessin::LigneV(PictureBox& Zone, Single X, Single Y1, Single Y2, Long Coul) {
-  Record("LigneV", {X, Y1, Y2, Coul});
+  Record("LigneV", X, Y1, Y2, Coul);
   inner_->LigneV(Zone, X, Y1, Y2, Coul);
 }
 
 void RecordingDessin::Pave(PictureBox& Zone, Single X1, Single Y1, Single X2, Single Y2,
                            Long Coul) {
-  Record("Pave", {X1, Y1, X2, Y2, Coul});
+  Record("Pave", X1, Y1, X2, Y2, Coul);
   inner_->Pave(Zone, X1, Y1, X2, Y2, Coul);
 }
 
 void RecordingDessin::EffaceRect(PictureBox& Zone, Single X1, Single Y1, Single X2, Single Y2,
                                  Long Coul) {
-  Record("EffaceRect", {X1, Y1, X2, Y2, Coul});
+  Record("EffaceRect", X1, Y1, X2, Y2, Coul);
   inner_->EffaceRect(Zone, X1, Y1, X2, Y2, Coul);
 }
 
 void RecordingDessin::Rectangle(PictureBox& Zone, Long Coul, Single Y, Single X, Single Largeur,
                                 Single Hauteur) {
-  Record("Rectangle", {Coul, Y, X, Largeur, Hauteur});
+  Record("Rectangle", Coul, Y, X, Largeur, Hauteur);
   inner_->Rectangle(Zone, Coul, Y, X, Largeur, Hauteur);
 }
 
 void RecordingDessin::Cadre3D(PictureBox& Zone, Long CoulFond, Long Coul, const String& Texte,
                               Single Y, Single X, Single Largeur, Single Hauteur,
                               const String& Style, Long N, const String& Align) {
-  Record("Cadre3D", {CoulFond, Coul, Texte, Y, X, Largeur, Hauteur, Style, N, Align});
+  Record("Cadre3D", CoulFond, Coul, Texte, Y, X, Largeur, Hauteur, Style, N, Align);
   inner_->Cadre3D(Zone, CoulFond, Coul, Texte, Y, X, Largeur, Hauteur, Style, N, Align);
 }
 
 void RecordingDessin::Efface(PictureBox& Zone) {
-  Record("Efface", {});
+  Record("Efface");
   inner_->Efface(Zone);
 }
 
 void RecordingDessin::Reduit(PictureBox& Zone) {
-  Record("Reduit", {});
+  Record("Reduit");
   inner_->Reduit(Zone);
 }
 
 void RecordingDessin::Recadre(Form& F) {
-  Record("Recadre", {});
+  Record("Recadre");
   inner_->Recadre(F);
 }
 
 void RecordingDessin::Hauteur(PictureBox& Zone, Single H, Boolean QueSiInf) {
-  Record("Hauteur", {H, QueSiInf});
+  Record("Hauteur", H, QueSiInf);
   inner_->Hauteur(Zone, H, QueSiInf);
 }
 
 void RecordingDessin::Largeur(PictureBox& Zone, Single W, Boolean QueSiInf) {
-  Record("Largeur", {W, QueSiInf});
+  Record("Largeur", W, QueSiInf);
   inner_->Largeur(Zone, W, QueSiInf);
 }
 
 void RecordingDessin::MemImage(PictureBox& Zone) {
-  Record("MemImage", {});
+  Record("MemImage");
   inner_->MemImage(Zone);
 }
 
 void RecordingDessin::ResImage(PictureBox& Zone) {
-  Record("ResImage", {});
+  Record("ResImage");
   inner_->ResImage(Zone);
 }
 

@@ -4,8 +4,8 @@
 // without the surface or form it was given.
 #pragma once
 
+#include <array>
 #include <cstddef>
-#include <deque>
 #include <memory>
 #include <string>
 #include <vector>
@@ -69,10 +69,71 @@ class RecordingDessin final : public Dessin {
   }
 
  private:
-  void Record(std::string name, std::vector<Variant> args);
+  // A call as it is kept until TakeLog: the name is a literal, numbers and
+  // Booleans sit in place, texts are copied into strings that the slot keeps
+  // from one use to the next. A call costs no allocation once the slots and
+  // their texts have grown.
+  struct Arg {
+    enum class Kind : unsigned char { Single, Long, Boolean, Text };
+    Kind kind = Kind::Single;
+    union {
+      Single single = 0;
+      Long long_value;
+      Boolean boolean;
+    };
+  };
+  struct Entry {
+    static constexpr std::size_t kMaxArgs = 10;  // Cadre3D
+    static constexpr std::size_t kMaxTexts = 3;
+    const char* name = "";
+    std::size_t count = 0;
+    std::size_t text_count = 0;
+    std::array<Arg, kMaxArgs> args{};
+    std::array<String, kMaxTexts> texts;
+
+    void Put(Single v) {
+      Arg& arg = args[count++];
+      arg.kind = Arg::Kind::Single;
+      arg.single = v;
+    }
+    void Put(Long v) {
+      Arg& arg = args[count++];
+      arg.kind = Arg::Kind::Long;
+      arg.long_value = v;
+    }
+    void Put(Boolean v) {
+      Arg& arg = args[count++];
+      arg.kind = Arg::Kind::Boolean;
+      arg.boolean = v;
+    }
+    void Put(const String& v) {
+      texts[text_count++].assign(v);
+      args[count++].kind = Arg::Kind::Text;
+    }
+  };
+
+  template <class... Args>
+  void Record(const char* name, const Args&... args) {
+    Entry& entry = NextEntry();
+    entry.name = name;
+    entry.count = 0;
+    entry.text_count = 0;
+    (entry.Put(args), ...);
+  }
+  // The slot for the next call; when the log is full, the oldest one.
+  // Below the limit the ring has not turned: head_ is 0.
+  Entry& NextEntry() {
+    if (count_ < slots_.size()) return slots_[count_++];
+    return GrowOrTurn();
+  }
+  Entry& GrowOrTurn();
+  static DessinCall ToCall(const Entry& entry);
 
   std::shared_ptr<Dessin> inner_;
-  std::deque<DessinCall> log_;
+  // A ring of at most kLogLimit slots: head_ is the oldest of count_ calls.
+  std::vector<Entry> slots_;
+  std::size_t head_ = 0;
+  std::size_t count_ = 0;
   std::size_t dropped_ = 0;
 };
 

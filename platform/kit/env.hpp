@@ -25,6 +25,8 @@ class Env : public ferlan::Env {
 
   FormRef KyF() override { return state_->form; }
   PictureBoxRef ZoneAff() override { return state_->surface; }
+  Form* KyFView() override { return state_->form.get(); }
+  PictureBox* ZoneAffView() override { return state_->surface.get(); }
   void SetZoneAff(PictureBoxRef zone) override { state_->surface = std::move(zone); }
 #define FERLAN_ENV_ACCESSORS(type, name, access, initial)                          \
   FERLAN_ENV_IF_GET_##access(type name() override { return state_->name; })    \

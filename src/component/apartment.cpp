@@ -7,7 +7,9 @@
 namespace ferlan {
 
 namespace {
-thread_local Apartment::State* current_state = nullptr;
+// Read at nearly every call: the initial-exec model reaches it without a call
+// to the dynamic loader, at the cost of one pointer of static TLS.
+[[gnu::tls_model("initial-exec")]] thread_local Apartment::State* current_state = nullptr;
 // The state of a thread that calls before making an apartment of its own.
 thread_local std::unique_ptr<Apartment::State> default_state;
 }  // namespace
@@ -35,7 +37,7 @@ ModuleState& State() {
 }
 
 Form& CurrentForm(ModuleState& st) {
-  FormRef form = st.Env->KyF();
+  Form* form = st.Env->KyFView();
   if (!form) throw PlatformError::ObjectNotSet();
   return *form;
 }
@@ -46,6 +48,10 @@ PictureBoxRef CurrentZoneRef(ModuleState& st) {
   return zone;
 }
 
-PictureBox& CurrentZone(ModuleState& st) { return *CurrentZoneRef(st); }
+PictureBox& CurrentZone(ModuleState& st) {
+  PictureBox* zone = st.Env->ZoneAffView();
+  if (!zone) throw PlatformError::ObjectNotSet();
+  return *zone;
+}
 
 }  // namespace ferlan

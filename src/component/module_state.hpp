@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -102,6 +103,13 @@ struct Apartment::State {
   // Created at the first Modif that needs it. Shared, not unique, so that
   // this header needs no complete CaretForm.
   std::shared_ptr<CaretForm> Feuille_Caret;
+  // The host form's caret control as last looked up by name, good while that
+  // form reports the same members version (src/editor/caret_form.cpp).
+  struct {
+    const Form* form = nullptr;
+    std::uint64_t version = 0;
+    PictureBox* control = nullptr;
+  } CaretLookup;
 
   // External objects.
   External<ferlan::Env> Env{registry, "Env"};

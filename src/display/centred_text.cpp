@@ -8,7 +8,7 @@ namespace ferlan {
 
 void KySaisie::AfficheCentre(Long L, const String& C, String Mes, Boolean EffAv, Long* ColFin) {
   ModuleState& st = State();
-  String text = Mes;
+  String text = std::move(Mes);
 
   if (EffAv) KySaisie{}.EffaceLigne(ToInteger(L), 1);
   // An empty text only clears: ColFin keeps its value.

@@ -43,9 +43,9 @@ void CaretForm::TimerCaret_Timer() {
     st_.PosCaretXPrec = st_.PosCaretX;
   }
   // Written at every tick, changed or not, each by name.
-  CaretControl(st_)->SetLeft(static_cast<Single>(st_.PosCaretX));
-  CaretControl(st_)->SetTop(static_cast<Single>(st_.PosCaretY));
-  CaretControl(st_)->SetVisible(st_.CaretVisible);
+  CachedCaretControl(st_).SetLeft(static_cast<Single>(st_.PosCaretX));
+  CachedCaretControl(st_).SetTop(static_cast<Single>(st_.PosCaretY));
+  CachedCaretControl(st_).SetVisible(st_.CaretVisible);
 }
 
 void CaretForm::TimerCaretCligote_Timer() {
@@ -68,10 +68,24 @@ PictureBoxRef CaretControl(ModuleState& st) {
   return FormMember<PictureBox>(CurrentForm(st), "Caret");
 }
 
+PictureBox& CachedCaretControl(ModuleState& st) {
+  Form& form = CurrentForm(st);
+  // A form that versions its members keeps the control it gave until they
+  // change; the look-up by name runs again then, and for any other form.
+  const std::uint64_t version = form.MembersVersion();
+  auto& cache = st.CaretLookup;
+  if (version != 0 && cache.form == &form && cache.version == version) return *cache.control;
+  const std::shared_ptr<PictureBox> caret = FormMember<PictureBox>(form, "Caret");
+  cache.form = version != 0 ? &form : nullptr;
+  cache.version = version;
+  cache.control = caret.get();
+  return *caret;
+}
+
 void ChooseCaretPicture(ModuleState& st) {
-  PictureBoxRef caret = CaretControl(st);
+  PictureBox& caret = CachedCaretControl(st);
   CaretForm& form = FeuilleCaret(st);
-  caret->SetPicture(st.Insertion ? form.CaretInsertion.Picture : form.CaretSurcharge.Picture);
+  caret.SetPicture(st.Insertion ? form.CaretInsertion.Picture : form.CaretSurcharge.Picture);
 }
 
 void StopCaret(ModuleState& st) {
@@ -80,7 +94,7 @@ void StopCaret(ModuleState& st) {
   form.TimerCaretCligote->SetEnabled(false);
   form.TimerCaret->SetInterval(0);
   form.TimerCaret->SetEnabled(false);
-  CaretControl(st)->SetVisible(false);
+  CachedCaretControl(st).SetVisible(false);
 }
 
 }  // namespace ferlan

@@ -46,9 +46,12 @@ class CaretForm {
 // Feuille_Caret of this apartment, loaded at its first use.
 CaretForm& FeuilleCaret(ModuleState& st);
 
-// The host form's caret control, looked up by name at each use (438 when the
-// form has none).
+// The host form's caret control, looked up by name (438 when the form has
+// none).
 PictureBoxRef CaretControl(ModuleState& st);
+// The same, kept from one use to the next while the form's members stay as
+// they were; looked up again whenever they may have changed.
+PictureBox& CachedCaretControl(ModuleState& st);
 
 // The caret's picture for the present Insertion: insert arrow or overwrite bar.
 void ChooseCaretPicture(ModuleState& st);

@@ -34,7 +34,7 @@ void PlaceAndStartCaret(EditState& e) {
     st.PosCaretY = CLng(static_cast<Double>(st.PosCaretY) + e.KyFSubst->Top() + e.CaretY);
   }
   // As wide as a letter.
-  CaretControl(st)->SetWidth(ky.LargeurTexte(car_caret));
+  CachedCaretControl(st).SetWidth(ky.LargeurTexte(car_caret));
 }
 
 }  // namespace ferlan

@@ -111,7 +111,9 @@ void DrawField(EditState& e) {
   OnFieldSurface(e, [&] {
     ky.EffaceZoneSaisie(e.LT, e.CzT, e.LzT, -1, nullptr);
     // Masked entry shows one bullet per character between the outer blanks.
-    const String source = e.IMS == u"I" ? Bullets(Len(Trim(e.CH))) : e.CH;
+    String bullets;
+    if (e.IMS == u"I") bullets = Bullets(Len(Trim(e.CH)));
+    const String& source = e.IMS == u"I" ? bullets : e.CH;
     e.TexteVu = Mid(source, AddInt(e.Decal, 1), e.NbVis);
     ky.AfficheT(CLng(e.LT), e.CT, e.Coul, e.TexteVu);
   });

@@ -65,7 +65,10 @@ String Mid(StringView s, Long start) {
 
 String Mid(StringView s, Long start, Long length) {
   if (length < 0) throw PlatformError::InvalidCall("Mid with a negative length");
-  return Left(Mid(s, start), length);
+  if (start < 1) throw PlatformError::InvalidCall("Mid from a position below 1");
+  // The part taken straight from s, without a copy of the rest first.
+  if (static_cast<std::size_t>(start) > s.size()) return {};
+  return String(s.substr(static_cast<std::size_t>(start - 1), static_cast<std::size_t>(length)));
 }
 
 void MidAssign(String& s, Long start, Long length, StringView with) {

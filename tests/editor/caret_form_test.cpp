@@ -96,6 +96,17 @@ TEST_F(CaretTest, CaretStandsUnderTheCharacterAsWideAsItWhileTheFieldWaits) {
   EXPECT_NE(caret.Left(), 3000);
 }
 
+TEST_F(CaretTest, ACaretControlPutInItsPlaceIsTheOneMoved) {
+  Edit(At(u"hello", 4), "{wait:2}{Enter}");
+  const auto first = CaretControl(St());
+  const auto second = session.NewPictureBox();
+  session.Form().AddMember("Caret", second);
+  Edit(At(u"hello", 2), "{wait:2}{Enter}");
+  EXPECT_EQ(second->Left(), kCT + 105);
+  EXPECT_EQ(second->Width(), 105);
+  EXPECT_EQ(first->Left(), kCT + 3 * 105);  // left where it was
+}
+
 TEST_F(CaretTest, CaretBlinksOnlyWhileTheFormIsInFront) {
   Env().active_window = session.Form().hWnd();
   // Abandon leaves both timers running. The first tick has moved the caret

@@ -41,6 +41,9 @@ TEST(FixedCanvasTest, ForgetsWhatAFillCoversAndBoundsTheRest) {
   }
   EXPECT_LE(canvas.Ops().size(), FixedCanvas::kOpsLimit + FixedCanvas::kOpsLimit / 4);
   EXPECT_EQ(canvas.Ops().size() + canvas.Dropped(), FixedCanvas::kOpsLimit * 2 + 3);
+  // After the cut a fill still finds every item it covers.
+  canvas.FillBox(0, 0, 105, 195, 1);
+  EXPECT_EQ(canvas.DescribeOps(), "FillBox 0 0 105 195 1\n");
   canvas.Clear(0);
   EXPECT_EQ(canvas.Dropped(), 0u);
 }
@@ -73,6 +76,8 @@ TEST(FixedCanvasTest, SnapshotPaintsBackItsListOrElsewhereItsBox) {
   canvas.Paint(*saved, 0, 0);
   EXPECT_EQ(canvas.DescribeOps(), "Line 0 0 10 10 1\n");
   EXPECT_EQ(canvas.Background(), 7);
+  canvas.FillBox(10, 10, 0, 0, 3);  // the list painted back is covered as any other
+  EXPECT_EQ(canvas.DescribeOps(), "FillBox 10 10 0 0 3\n");
   // Elsewhere it moves and covers its box; other pictures show place and size.
   canvas.Resize(1000, 1000);
   canvas.Clear(0);
