@@ -19,9 +19,11 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "ferlan/host.hpp"
 #include "forms/bitmap.hpp"
+#include "raster/raster_canvas.hpp"
 
 namespace ferlan::raster {
 
@@ -44,8 +46,21 @@ PixelSize FormPixelSize(Form& form);
 // `size` must be FormPixelSize(form); `data` holds its rows top first,
 // `stride` bytes apart, one 32-bit word 0x00RRGGBB a pixel in native byte
 // order (as pixel_words.hpp describes). The same pixels as ComposeForm.
+// With `clip`, only the pixels inside those rectangles are drawn, the rest
+// of `data` is left as it is: a front-end that keeps the last picture
+// redraws only what changed.
 void ComposeFormOnto(Form& form, PictureBox* surface, unsigned char* data, PixelSize size,
-                     int stride);
+                     int stride, const std::vector<PixelRect>* clip = nullptr);
+
+// Where a picture control's inner area lies on the form's picture (its
+// border left out), as ComposeForm draws it.
+PixelRect InnerRect(PictureBox& box);
+// Where the pixels of the control's canvas in `damage` (one of the
+// rectangles RasterCanvas::TakeDamage gives) show on the form's picture.
+PixelRect CanvasDamageOnForm(PictureBox& box, const PixelRect& damage);
+// Where the caret control shows on the form's picture, clipped to the
+// surface's inner area; empty when it does not show.
+PixelRect CaretRect(PictureBox& caret, PictureBox& surface);
 
 // ComposeForm written as a PNG file. Errors: Host when the file cannot be
 // written.
