@@ -57,6 +57,10 @@ class Form final : public ferlan::Form {
   void AddMember(std::string name, ObjectRef object);
   // Errors: 438 when the form has no member of that name.
   ObjectRef Member(std::string_view name) override;
+  // The picture controls made for this form, members or not (a host's own
+  // control, a substitute surface), held weakly, in the order made.
+  void AddControl(const std::shared_ptr<Object>& control);
+  std::vector<ObjectRef> Controls() const;
 
   // The host's event handlers; each may call back into the component.
   std::function<void(Integer& KeyCode, Integer Shift)> on_key_down;
@@ -89,6 +93,7 @@ class Form final : public ferlan::Form {
   Boolean key_preview_ = false;
   String caption_;
   std::vector<std::pair<std::string, ObjectRef>> members_;
+  std::vector<std::weak_ptr<Object>> controls_;
 };
 
 }  // namespace ferlan::forms

@@ -13,6 +13,7 @@
 
 #include "raster/picture_files.hpp"
 #include "raster/pixel_words.hpp"
+#include "forms/form.hpp"
 #include "forms/picture_box.hpp"
 #include "raster/raster_canvas.hpp"
 
@@ -96,10 +97,16 @@ const RasterCanvas* RasterOf(PictureBox& box) {
   return own ? dynamic_cast<const RasterCanvas*>(&own->GetCanvas()) : nullptr;
 }
 
-// A picture control at its place: its border, its canvas, its picture.
-PixelRect DrawPictureBox(cairo_t* cr, PictureBox& box) {
+PixelRect InnerRectFrom(PictureBox& box, int origin_x, int origin_y) {
   const int border = Border(box);
-  const PixelRect inner = InnerRect(box);
+  return {origin_x + PixelOfTwips(box.Left()) + border, origin_y + PixelOfTwips(box.Top()) + border,
+          PixelsOfSize(box.ScaleWidth()), PixelsOfSize(box.ScaleHeight())};
+}
+
+// A picture control at its place: its border, its canvas, its picture.
+PixelRect DrawPictureBox(cairo_t* cr, PictureBox& box, int origin_x = 0, int origin_y = 0) {
+  const int border = Border(box);
+  const PixelRect inner = InnerRectFrom(box, origin_x, origin_y);
   if (border > 0) {
     // A sunken single border: a grey line outside a dark one.
     const int w = inner.w + 2 * border, h = inner.h + 2 * border;
@@ -147,10 +154,32 @@ void DrawCaret(cairo_t* cr, PictureBox& caret, const PixelRect& surface) {
 
 }  // namespace
 
-PixelRect InnerRect(PictureBox& box) {
-  const int border = Border(box);
-  return {PixelOfTwips(box.Left()) + border, PixelOfTwips(box.Top()) + border,
-          PixelsOfSize(box.ScaleWidth()), PixelsOfSize(box.ScaleHeight())};
+PixelRect InnerRect(PictureBox& box) { return InnerRectFrom(box, 0, 0); }
+
+std::vector<PictureBox*> SurfaceChildren(Form& form, PictureBox* surface) {
+  std::vector<PictureBox*> children;
+  auto* own = dynamic_cast<forms::Form*>(&form);
+  if (own == nullptr) return children;
+  const auto* zone = OptionalMember<PictureBox>(form, "zoneMessage").get();
+  const auto* caret = OptionalMember<PictureBox>(form, "Caret").get();
+  const auto* main_surface = OptionalMember<PictureBox>(form, "ZoneAff").get();
+  for (const ObjectRef& object : own->Controls()) {
+    auto* box = dynamic_cast<PictureBox*>(object.get());
+    if (box == nullptr || box == surface || box == zone || box == caret || box == main_surface) {
+      continue;
+    }
+    children.push_back(box);
+  }
+  return children;
+}
+
+PixelRect ChildRect(PictureBox& child, PictureBox& surface) {
+  if (!child.Visible() || !surface.Visible()) return {};
+  const PixelRect parent = InnerRect(surface);
+  const int border = Border(child);
+  const PixelRect inner = InnerRectFrom(child, parent.x, parent.y);
+  return PixelRect{inner.x - border, inner.y - border, inner.w + 2 * border, inner.h + 2 * border}
+      .Intersection(parent);
 }
 
 PixelRect CanvasDamageOnForm(PictureBox& box, const PixelRect& damage) {
@@ -216,7 +245,18 @@ void ComposeFormOnto(Form& form, PictureBox* surface, unsigned char* data, Pixel
     Fill(cr, x, y + h - 1, w, std::min(h, 1), kShadow);
   }
   PixelRect inner;
-  if (surface->Visible()) inner = DrawPictureBox(cr, *surface);
+  if (surface->Visible()) {
+    inner = DrawPictureBox(cr, *surface);
+    // The host's own picture controls, children of the surface.
+    for (PictureBox* child : SurfaceChildren(form, surface)) {
+      if (!child->Visible()) continue;
+      cairo_save(cr);
+      cairo_rectangle(cr, inner.x, inner.y, inner.w, inner.h);
+      cairo_clip(cr);
+      DrawPictureBox(cr, *child, inner.x, inner.y);
+      cairo_restore(cr);
+    }
+  }
   if (auto zone = OptionalMember<PictureBox>(form, "zoneMessage"); zone && zone->Visible()) {
     DrawPictureBox(cr, *zone);
   }

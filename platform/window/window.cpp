@@ -43,6 +43,7 @@ struct Scene {
   Single scale_width = 0, scale_height = 0;
   const void* surface = nullptr;
   Look surface_look, toolbar, zone, caret;
+  std::vector<Look> children;  // the host's picture controls on the surface
   friend bool operator==(const Scene&, const Scene&) = default;
 
   // Whether the two differ only by what was drawn on the canvases and by
@@ -52,6 +53,7 @@ struct Scene {
     for (Scene* s : {&a, &b}) {
       s->surface_look.drawn = s->zone.drawn = 0;
       s->caret = {};
+      for (Look& child : s->children) child.drawn = 0;
     }
     return a == b;
   }
@@ -158,6 +160,7 @@ struct Window::Impl {
   // What the window shows now, so that the form's changes are told apart
   // from the window manager's.
   raster::PixelSize shown_size;
+  Single shown_left = 0, shown_top = 0;
   Integer shown_state = 0;
   String shown_caption;
   std::optional<Scene> scene;  // of the frame presented last
@@ -223,11 +226,19 @@ std::unique_ptr<headless::Session> Window::OpenSession() {
   headless::Frontend frontend;
   frontend.loop = &impl_->loop;
   frontend.screen = Screen();
+  frontend.work_area = WorkArea();
   frontend.clipboard = SystemClipboard();
   auto session = std::make_unique<headless::Session>(raster::RasterCanvasFactory(),
                                                      std::move(frontend));
   session->Global().SetPngDecoder(raster::DecodePng);
   impl_->form = session->FormRef();
+  // The window stays where it opened until the form is moved.
+  int x = 0, y = 0;
+  SDL_GetWindowPosition(impl_->window, &x, &y);
+  session->Form().SetLeft(static_cast<Single>(x) * kTwips);
+  session->Form().SetTop(static_cast<Single>(y) * kTwips);
+  impl_->shown_left = session->Form().Left();
+  impl_->shown_top = session->Form().Top();
   impl_->env = session->EnvRef();
   impl_->scene.reset();
   impl_->loop.SetForm(session->FormRef());
@@ -240,6 +251,16 @@ std::unique_ptr<headless::Session> Window::OpenSession() {
 }
 
 EventLoop& Window::Loop() { return impl_->loop; }
+
+forms::Screen Window::WorkArea() const {
+  SDL_Rect usable;
+  const int display = std::max(0, SDL_GetWindowDisplayIndex(impl_->window));
+  if (SDL_GetDisplayUsableBounds(display, &usable) != 0 || usable.w <= 0 || usable.h <= 0) {
+    return Screen();
+  }
+  return forms::Screen(static_cast<Single>(usable.w) * kTwips,
+                       static_cast<Single>(usable.h) * kTwips);
+}
 
 forms::Screen Window::Screen() const {
   SDL_DisplayMode mode;
@@ -287,6 +308,12 @@ bool Window::Present() {
     const raster::PixelRect caret_rect =
         caret ? raster::CaretRect(*caret, *surface) : raster::PixelRect{};
     if (impl.scene && impl.scene->SameLayout(scene) && !impl.frame.empty()) {
+      const std::vector<PictureBox*> children = raster::SurfaceChildren(*form, surface);
+      for (std::size_t i = 0; i < children.size(); ++i) {
+        if (impl.scene->children[i].drawn != scene.children[i].drawn) {
+          raster::AddRect(damage, raster::ChildRect(*children[i], *surface), kMostRects);
+        }
+      }
       if (impl.scene->caret != scene.caret) {
         // The caret's old place shows again what lies under it.
         raster::AddRect(damage, impl.caret_rect, kMostRects);
@@ -320,6 +347,9 @@ Scene Window::Impl::Current(forms::Form& f, kit::EnvState& e) const {
   now.toolbar = LookOf(MemberOf<Control>(f, "BarreOutils"));
   now.zone = LookOf(MemberOf<PictureBox>(f, "zoneMessage"));
   now.caret = LookOf(MemberOf<PictureBox>(f, "Caret"));
+  for (PictureBox* child : raster::SurfaceChildren(f, e.surface.get())) {
+    now.children.push_back(LookOf(child));
+  }
   return now;
 }
 
@@ -337,6 +367,11 @@ void Window::Impl::Sync(forms::Form& f) {
     } else {
       SDL_RestoreWindow(window);
     }
+  }
+  if (f.Left() != shown_left || f.Top() != shown_top) {
+    shown_left = f.Left();
+    shown_top = f.Top();
+    SDL_SetWindowPosition(window, raster::PixelOfTwips(shown_left), raster::PixelOfTwips(shown_top));
   }
   const raster::PixelSize wanted = raster::FormPixelSize(f);
   if (shown_state == 0 && wanted != shown_size && wanted.width > 0 && wanted.height > 0) {
@@ -373,6 +408,14 @@ void Window::Impl::OnWindowEvent(const SDL_Event& event) {
       f->SetWindowState(state);
       return;
     }
+    case SDL_WINDOWEVENT_MOVED:
+      // The person moved the window: the form's place follows.
+      if (!f || shown_state != 0) return;
+      shown_left = static_cast<Single>(event.window.data1) * kTwips;
+      shown_top = static_cast<Single>(event.window.data2) * kTwips;
+      f->SetLeft(shown_left);
+      f->SetTop(shown_top);
+      return;
     case SDL_WINDOWEVENT_FOCUS_GAINED:
       if (auto e = env.lock(); e && f) e->active_window = f->hWnd();
       return;

@@ -132,6 +132,31 @@ TEST_F(FormPictureTest, ToolbarCaretAndMessageZoneShowOnlyWhenVisible) {
   EXPECT_EQ(At(*picture, kOx + 104, kOy + 40), kWhite);
 }
 
+// The host's own picture controls show on the surface, in its scale and
+// clipped to it, while Visible: here one placed under a line as ImageSD
+// places it (Left, Top in the surface's twips).
+TEST_F(FormPictureTest, HostPictureControlsShowAsChildrenOfTheSurface) {
+  auto photo = session.NewPictureBox();
+  photo->SetPicture(std::make_shared<forms::Bitmap>(4, 3, std::vector<forms::Rgb>(12, {0, 128, 0})));
+  photo->SetWidth(60);
+  photo->SetHeight(45);
+  photo->SetVisible(false);
+  photo->SetLeft(1500);
+  photo->SetTop(600);
+  EXPECT_EQ(At(*Compose(), kOx + 100, kOy + 40), kWhite);
+  photo->SetVisible(true);
+  auto picture = Compose();
+  EXPECT_EQ(At(*picture, kOx + 100, kOy + 40), 0x00008000);
+  EXPECT_EQ(At(*picture, kOx + 103, kOy + 42), 0x00008000);
+  EXPECT_EQ(At(*picture, kOx + 104, kOy + 40), kWhite);
+  EXPECT_EQ(ChildRect(*photo, *surface), (PixelRect{kOx + 100, kOy + 40, 4, 3}));
+  // Past the surface's right edge it is cut there.
+  photo->SetLeft(599 * 15);
+  picture = Compose();
+  EXPECT_EQ(At(*picture, kOx + 599, kOy + 40), 0x00008000);
+  EXPECT_NE(At(*picture, kOx + 600, kOy + 40), 0x00008000);  // the surface's border
+}
+
 TEST_F(FormPictureTest, PngFileShowsWhatTheComposedPictureShows) {
   toolbar.SetVisible(true);
   KySaisie{}.AfficheT(195, 105, u"Rouge", u"Erreur de saisie");
