@@ -113,10 +113,11 @@ int main() {
     k.ModD(m, u"A", 3, 12, k.WinCol(12), 30, tr);
     const double wall = std::chrono::duration<double>(Clock::now() - t0).count();
     const double cpu = ProcessorSeconds() - cpu0;
-    std::printf("idle field, %.1f s: processor %.3f%% of a core, %.1f wake-ups/s "
-                "(%.1f voluntary switches/s), %.1f frames/s\n",
-                wall, 100.0 * cpu / wall, (window->Loop().Sleeps() - sleeps0) / wall,
-                (VoluntarySwitches() - switches0) / wall, (window->Frames() - frames0) / wall);
+    std::printf(
+        "idle field, %.1f s: processor %.3f%% of a core, %.1f wake-ups/s "
+        "(%.1f voluntary switches/s), %.1f frames/s\n",
+        wall, 100.0 * cpu / wall, (window->Loop().Sleeps() - sleeps0) / wall,
+        (VoluntarySwitches() - switches0) / wall, (window->Frames() - frames0) / wall);
     session->Env().Abandon = false;
   }
 
@@ -165,10 +166,11 @@ int main() {
   };
   std::printf("200 keys, key event to frame presented: median %.3f ms, p99 %.3f ms, max %.3f ms\n",
               at(0.5), at(0.99), latencies.back());
-  std::printf("window thread processor time: %.3f ms a key, %.3f ms a frame (%llu frames "
-              "over %.1f s, the caret's blinks included)\n",
-              1000.0 * thread_cpu / static_cast<double>(latencies.size()),
-              1000.0 * thread_cpu / static_cast<double>(std::max<std::uint64_t>(key_frames, 1)),
-              static_cast<unsigned long long>(key_frames), key_wall);
+  std::printf(
+      "window thread processor time: %.3f ms a key, %.3f ms a frame (%llu frames "
+      "over %.1f s, the caret's blinks included)\n",
+      1000.0 * thread_cpu / static_cast<double>(latencies.size()),
+      1000.0 * thread_cpu / static_cast<double>(std::max<std::uint64_t>(key_frames, 1)),
+      static_cast<unsigned long long>(key_frames), key_wall);
   return 0;
 }

@@ -11,10 +11,10 @@
 #include <string_view>
 #include <vector>
 
-#include "raster/picture_files.hpp"
-#include "raster/pixel_words.hpp"
 #include "forms/form.hpp"
 #include "forms/picture_box.hpp"
+#include "raster/picture_files.hpp"
+#include "raster/pixel_words.hpp"
 #include "raster/raster_canvas.hpp"
 
 namespace ferlan::raster {
@@ -132,7 +132,8 @@ PixelRect DrawPictureBox(cairo_t* cr, PictureBox& box, int origin_x = 0, int ori
 // The caret's place, unclipped.
 PixelRect CaretPlace(PictureBox& caret, const PixelRect& surface) {
   const forms::Bitmap* picture = AsBitmap(caret.Picture());
-  const int w = caret.Width() > 0 ? PixelsOfSize(caret.Width()) : (picture ? picture->PixelWidth() : 0);
+  const int w =
+      caret.Width() > 0 ? PixelsOfSize(caret.Width()) : (picture ? picture->PixelWidth() : 0);
   const int h =
       caret.Height() > 0 ? PixelsOfSize(caret.Height()) : (picture ? picture->PixelHeight() : 0);
   return {surface.x + PixelOfTwips(caret.Left()), surface.y + PixelOfTwips(caret.Top()), w, h};

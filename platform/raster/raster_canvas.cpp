@@ -304,8 +304,7 @@ void RasterCanvas::Text(Single x, Single y, StringView text, const forms::FontSp
     max_y = std::max(max_y, gy + row1 - 1);
   });
   if (max_x >= min_x) {
-    cairo_surface_mark_dirty_rectangle(s.image, min_x, min_y, max_x - min_x + 1,
-                                       max_y - min_y + 1);
+    cairo_surface_mark_dirty_rectangle(s.image, min_x, min_y, max_x - min_x + 1, max_y - min_y + 1);
     s.Damage(min_x, min_y, max_x - min_x + 1, max_y - min_y + 1);
   }
 }

@@ -59,8 +59,7 @@ class RasterCanvas final : public forms::Canvas {
   void FillBox(Single x1, Single y1, Single x2, Single y2, Long colour) override;
   void Box(Single x1, Single y1, Single x2, Single y2, Long colour) override;
   void Line(Single x1, Single y1, Single x2, Single y2, Long colour) override;
-  void Text(Single x, Single y, StringView text, const forms::FontSpec& font,
-            Long colour) override;
+  void Text(Single x, Single y, StringView text, const forms::FontSpec& font, Long colour) override;
   PictureRef Snapshot() override;
   void Paint(const Picture& picture, Single x, Single y) override;
 

@@ -229,8 +229,10 @@ std::int64_t EventLoop::SleepBudget() {
   }
   if (script_ != nullptr && !script_->Empty() && !closed_) {
     if (script_->Front().kind != headless::KeyItem::Kind::Wait) return 0;
-    if (script_wait_until_ >= 0) next = std::min(next, script_wait_until_);
-    else return 0;
+    if (script_wait_until_ >= 0)
+      next = std::min(next, script_wait_until_);
+    else
+      return 0;
   }
   return std::max<std::int64_t>(0, next - now);
 }

@@ -151,7 +151,6 @@ bool DisplayAvailable(std::string* why) {
   return true;
 }
 
-
 struct Window::Impl {
   SDL_Window* window = nullptr;
   EventLoop loop;
@@ -163,7 +162,7 @@ struct Window::Impl {
   Single shown_left = 0, shown_top = 0;
   Integer shown_state = 0;
   String shown_caption;
-  std::optional<Scene> scene;  // of the frame presented last
+  std::optional<Scene> scene;    // of the frame presented last
   raster::PixelRect caret_rect;  // where the caret shows in that frame
   bool expose = false;
   // The last frame, kept whole: a new one redraws only what changed.
@@ -203,9 +202,8 @@ Window::Window(const std::string& title) : impl_(std::make_unique<Impl>()) {
   impl_->shown_size = {640, 480};
   impl_->shown_caption = FromUtf8(title);
   SDL_StartTextInput();
-  impl_->loop.SetWindowEventHandler([impl = impl_.get()](const SDL_Event& e) {
-    impl->OnWindowEvent(e);
-  });
+  impl_->loop.SetWindowEventHandler(
+      [impl = impl_.get()](const SDL_Event& e) { impl->OnWindowEvent(e); });
   impl_->loop.SetFrameHook([this] { return Present(); });
   impl_->loop.SetChangeCheck([impl = impl_.get()] {
     const std::shared_ptr<forms::Form> form = impl->form.lock();
@@ -228,8 +226,8 @@ std::unique_ptr<headless::Session> Window::OpenSession() {
   frontend.screen = Screen();
   frontend.work_area = WorkArea();
   frontend.clipboard = SystemClipboard();
-  auto session = std::make_unique<headless::Session>(raster::RasterCanvasFactory(),
-                                                     std::move(frontend));
+  auto session =
+      std::make_unique<headless::Session>(raster::RasterCanvasFactory(), std::move(frontend));
   session->Global().SetPngDecoder(raster::DecodePng);
   impl_->form = session->FormRef();
   // The window stays where it opened until the form is moved.
@@ -371,7 +369,8 @@ void Window::Impl::Sync(forms::Form& f) {
   if (f.Left() != shown_left || f.Top() != shown_top) {
     shown_left = f.Left();
     shown_top = f.Top();
-    SDL_SetWindowPosition(window, raster::PixelOfTwips(shown_left), raster::PixelOfTwips(shown_top));
+    SDL_SetWindowPosition(window, raster::PixelOfTwips(shown_left),
+                          raster::PixelOfTwips(shown_top));
   }
   const raster::PixelSize wanted = raster::FormPixelSize(f);
   if (shown_state == 0 && wanted != shown_size && wanted.width > 0 && wanted.height > 0) {
@@ -448,17 +447,16 @@ void Window::Impl::Show(const std::vector<raster::PixelRect>* damage) {
     shown_target = target;
     shown_target_size = {target->w, target->h};
   }
-  if (damage == nullptr &&
-      (target->w > frame_size.width || target->h > frame_size.height)) {
+  if (damage == nullptr && (target->w > frame_size.width || target->h > frame_size.height)) {
     SDL_FillRect(target, nullptr,
                  SDL_MapRGB(target->format, (kButtonFace >> 16) & 0xFF, (kButtonFace >> 8) & 0xFF,
                             kButtonFace & 0xFF));
   }
   std::vector<SDL_Rect> rects;
   if (!frame.empty()) {
-    SDL_Surface* source = SDL_CreateRGBSurfaceWithFormatFrom(
-        frame.data(), frame_size.width, frame_size.height, 32, frame_size.width * 4,
-        SDL_PIXELFORMAT_RGB888);
+    SDL_Surface* source =
+        SDL_CreateRGBSurfaceWithFormatFrom(frame.data(), frame_size.width, frame_size.height, 32,
+                                           frame_size.width * 4, SDL_PIXELFORMAT_RGB888);
     if (source != nullptr) {
       if (damage == nullptr) {
         SDL_BlitSurface(source, nullptr, target, nullptr);

@@ -3,15 +3,14 @@
 #include "window/window.hpp"
 
 #include <SDL.h>
+#include <X11/Xatom.h>
+#include <X11/keysym.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <thread>
-
-#include <X11/Xatom.h>
-#include <X11/keysym.h>
 
 #include "ferlan/kysaisie.hpp"
 #include "platform/window/x_display.hpp"
@@ -140,10 +139,12 @@ TEST_F(WindowTest, APersonTypesAFieldAndTheWindowShowsIt) {
   // about the width of what was typed, on the field's line.
   const int border = raster::PixelOfTwips((surface.Width() - surface.ScaleWidth()) / 2);
   const int left = raster::PixelOfTwips(surface.Left()) + border + raster::PixelOfTwips(ct);
-  const int top = raster::PixelOfTwips(surface.Top()) + border + raster::PixelOfTwips(k.WinLigne(3));
+  const int top =
+      raster::PixelOfTwips(surface.Top()) + border + raster::PixelOfTwips(k.WinLigne(3));
   const int text_height = raster::PixelsOfSize(k.HauteurTexte());
   const int text_width = raster::PixelsOfSize(surface.TextWidth(m));
-  const std::uint32_t ground = shot[static_cast<std::size_t>(top + text_height / 2) * width + left + text_width + 20];
+  const std::uint32_t ground =
+      shot[static_cast<std::size_t>(top + text_height / 2) * width + left + text_width + 20];
   int ink_left = width, ink_right = -1, ink = 0;
   for (int y = top; y < top + text_height; ++y) {
     for (int x = left - 10; x < left + text_width + 20; ++x) {
@@ -194,8 +195,7 @@ TEST_F(WindowTest, AFieldOnASubstituteSurfaceShowsInTheWindow) {
   int width = 0, height = 0;
   const std::vector<std::uint32_t> shot = Screenshot(id, width, height);
   PictureBox& surface = *session->Env().surface;
-  EXPECT_EQ(DifferingPixels(shot, width, height,
-                            *raster::ComposeForm(session->Form(), &surface)),
+  EXPECT_EQ(DifferingPixels(shot, width, height, *raster::ComposeForm(session->Form(), &surface)),
             0);
   // The control shows at its place on the surface, the text inked on it.
   const raster::PixelRect at = raster::ChildRect(*subst, surface);
@@ -236,8 +236,8 @@ TEST_F(WindowTest, ClosingTheWindowAbandonsTheWaitAndTheSession) {
 TEST_F(WindowTest, TheFormAndTheWindowFollowEachOther) {
   // A panel of 24 pixels at the display's foot, as a desktop would keep.
   const long work_area[4] = {0, 0, 1280, 1000};
-  XChangeProperty(display_, DefaultRootWindow(display_), XInternAtom(display_, "_NET_WORKAREA", False),
-                  XA_CARDINAL, 32, PropModeReplace,
+  XChangeProperty(display_, DefaultRootWindow(display_),
+                  XInternAtom(display_, "_NET_WORKAREA", False), XA_CARDINAL, 32, PropModeReplace,
                   reinterpret_cast<const unsigned char*>(work_area), 4);
   XSync(display_, False);
   window::Window window("Ferlan test");
@@ -317,7 +317,8 @@ TEST_F(WindowTest, RunPlaysASessionInAWindow) {
 {"keys":"Caf\u00e9{Enter}"}
 {"call":"ModD","args":["","A",3,12,1260,20,0]}
 {"get":["Form.Caption"]}
-)", f);
+)",
+               f);
     std::fclose(f);
   }
   const std::string out = ::testing::TempDir() + "ferlan_run_test.out";
@@ -349,9 +350,10 @@ TEST_F(WindowTest, RunPlaysASessionInAWindow) {
 
   // Without a display: one line, and status 2.
   const std::string err = ::testing::TempDir() + "ferlan_run_test.err";
-  const int no_display = std::system(
-      ("env -u DISPLAY -u WAYLAND_DISPLAY " + std::string(FERLAN_CLI) + " run " + file + " > " +
-       out + " 2> " + err).c_str());
+  const int no_display =
+      std::system(("env -u DISPLAY -u WAYLAND_DISPLAY " + std::string(FERLAN_CLI) + " run " + file +
+                   " > " + out + " 2> " + err)
+                      .c_str());
   EXPECT_EQ(WEXITSTATUS(no_display), 2);
   f = std::fopen(err.c_str(), "r");
   ASSERT_NE(f, nullptr);
