@@ -6,6 +6,7 @@
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <optional>
 #include <string>
 #include <vector>
@@ -104,6 +105,24 @@ void TakeDamage(PictureBox* box, std::vector<raster::PixelRect>& damage) {
   }
 }
 
+// Adds the processor time of this thread over its life to `total`.
+class ThreadTimeMeter {
+ public:
+  explicit ThreadTimeMeter(std::atomic<std::int64_t>& total) : total_(total), start_(Now()) {}
+  ~ThreadTimeMeter() { total_ += Now() - start_; }
+  ThreadTimeMeter(const ThreadTimeMeter&) = delete;
+  ThreadTimeMeter& operator=(const ThreadTimeMeter&) = delete;
+
+ private:
+  static std::int64_t Now() {
+    timespec t{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &t);
+    return static_cast<std::int64_t>(t.tv_sec) * 1'000'000'000 + t.tv_nsec;
+  }
+  std::atomic<std::int64_t>& total_;
+  std::int64_t start_;
+};
+
 #if FERLAN_WINDOW_XLIB && defined(SDL_VIDEO_DRIVER_X11)
 // Xlib's own handler ends the process on any protocol error, such as a
 // request that races with a window already destroyed while it closes. That
@@ -175,6 +194,7 @@ struct Window::Impl {
   // Read by benchmarks from another thread.
   std::atomic<std::uint64_t> frames{0};
   std::atomic<std::chrono::steady_clock::time_point> last_frame{};
+  std::atomic<std::int64_t> frame_cpu_ns{0};
 
   void OnWindowEvent(const SDL_Event& event);
   // What the form shows now, as the frame check compares it.
@@ -283,6 +303,10 @@ unsigned long Window::NativeHandle() const {
 
 std::uint64_t Window::Frames() const { return impl_->frames; }
 
+std::chrono::nanoseconds Window::FrameProcessorTime() const {
+  return std::chrono::nanoseconds(impl_->frame_cpu_ns.load());
+}
+
 std::chrono::steady_clock::time_point Window::LastFrameTime() const { return impl_->last_frame; }
 
 bool Window::Present() {
@@ -296,6 +320,7 @@ bool Window::Present() {
   auto* caret = MemberOf<PictureBox>(*form, "Caret");
   const Scene scene = impl.Current(*form, *env);
   if (impl.scene == scene && !impl.expose) return false;
+  const ThreadTimeMeter meter(impl.frame_cpu_ns);
   if (impl.scene != scene) {
     if (surface == nullptr) return false;
     // Taken at every frame, so that each holds what was drawn since the

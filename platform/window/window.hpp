@@ -85,6 +85,9 @@ class Window {
   // read from another thread.
   std::uint64_t Frames() const;
   std::chrono::steady_clock::time_point LastFrameTime() const;
+  // The processor time spent composing frames and copying them to the
+  // window so far, for benchmarks.
+  std::chrono::nanoseconds FrameProcessorTime() const;
 
  private:
   struct Impl;
