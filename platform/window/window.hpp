@@ -6,8 +6,10 @@
 //      raster surface composes it (same composition, same pixels): back
 //      colour, toolbar, surface at its place, caret, message zone
 //  [X] a frame only when something was drawn or a control moved, showed,
-//      hid or resized; never in a loop; an uncovered window is re-shown
-//      from the last frame without drawing it again
+//      hid or resized; never in a loop; it composes and copies only the
+//      rectangles drawn on and the caret's old and new places when nothing
+//      else changed; an uncovered window is re-shown from the last frame
+//      without drawing it again
 //  [X] keys as the platform raises them, one keystroke a DoEvents: KeyDown
 //      with the virtual key and Shift mask, then KeyPress with the character
 //      the system's text input typed (any layout, dead keys, AltGr) in
