@@ -21,33 +21,27 @@ int main() {
   ferlan::KySaisie k;
 
   k.InitKyF();
-  k.DimensionFeuille(12, 60);
-  k.AfficheCentre(1, u"R", u"Fiche client");
-  struct Field {
-    Integer line;
-    const char16_t* label;
-    const char16_t* type;
-    Integer length;
-    String value;
-  };
-  Field fields[] = {{3, u"Nom", u"A", 30, u""},
-                    {5, u"Ville", u"A", 25, u""},
-                    {7, u"Solde", u"N2", 12, u"0"}};
-  for (const Field& f : fields) k.Affiche(f.line, 2, u"I", f.label);
+  // The screen: each field's identifier, label, type and length. Dorvi
+  // reads it, lays it out, draws the labels and boxes and sizes the form.
+  String definition =
+      u"[@COL10,[NOM,Nom du client,A,30],[VILLE,Ville,A,25],[TEL,Téléphone,A,14]]";
+  k.Dorvi(definition);
   k.MesBasEcran(u"Bleu", u"Entrée: champ suivant, Haut: champ précédent, Échap: fin");
 
-  // Enter or Down goes on, Up goes back, Escape or closing the window ends.
+  // Each field entered by its identifier; Enter or Down goes on, Up goes
+  // back, Escape or closing the window ends.
+  const char16_t* ids[] = {u"NOM", u"VILLE", u"TEL"};
+  String values[3];
   const auto& env = session->Env();
   int current = 0;
   while (current < 3 && !env.Abandon) {
-    Field& f = fields[current];
     Integer tr = 0;
-    k.ModD(f.value, f.type, f.line, 12, k.WinCol(12), f.length, tr);
+    k.Sai(ids[current], values[current], tr);
     if (env.Abandon || tr == env.ToucheVide) break;
     current = tr == env.ToucheHaut ? (current > 0 ? current - 1 : 0) : current + 1;
   }
-  for (const Field& f : fields) {
-    std::cout << ferlan::ToUtf8(f.label) << ": " << ferlan::ToUtf8(f.value) << '\n';
+  for (int i = 0; i < 3; ++i) {
+    std::cout << ferlan::ToUtf8(ids[i]) << ": " << ferlan::ToUtf8(values[i]) << '\n';
   }
   return 0;
 }

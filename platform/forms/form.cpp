@@ -114,6 +114,19 @@ void Form::AddMember(std::string name, ObjectRef object) {
   DockToolbars();
 }
 
+void Form::AddControl(const std::shared_ptr<Object>& control) {
+  std::erase_if(controls_, [](const std::weak_ptr<Object>& c) { return c.expired(); });
+  controls_.push_back(control);
+}
+
+std::vector<ObjectRef> Form::Controls() const {
+  std::vector<ObjectRef> live;
+  for (const std::weak_ptr<Object>& c : controls_) {
+    if (ObjectRef control = c.lock()) live.push_back(std::move(control));
+  }
+  return live;
+}
+
 ObjectRef Form::Member(std::string_view name) {
   for (const auto& [member_name, object] : members_) {
     if (SameName(member_name, name)) return object;

@@ -62,6 +62,10 @@ class Form final : public ferlan::Form {
   // Errors: 438 when the form has no member of that name.
   ObjectRef Member(std::string_view name) override;
   std::uint64_t MembersVersion() const override { return members_version_; }
+  // The picture controls made for this form, members or not (a host's own
+  // control, a substitute surface), held weakly, in the order made.
+  void AddControl(const std::shared_ptr<Object>& control);
+  std::vector<ObjectRef> Controls() const;
 
   // The host's event handlers; each may call back into the component.
   std::function<void(Integer& KeyCode, Integer Shift)> on_key_down;
@@ -95,6 +99,7 @@ class Form final : public ferlan::Form {
   String caption_;
   std::vector<std::pair<std::string, ObjectRef>> members_;
   std::uint64_t members_version_;
+  std::vector<std::weak_ptr<Object>> controls_;
 };
 
 }  // namespace ferlan::forms

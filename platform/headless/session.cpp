@@ -23,7 +23,8 @@ Session::Session(forms::CanvasFactory canvas_factory, Frontend frontend)
   global_ = std::make_shared<forms::Global>(frontend.loop ? *frontend.loop : loop_, screen,
                                             std::move(frontend.clipboard));
 
-  form_ = std::make_shared<forms::Form>(kFormHandle, screen.Width(), screen.Height());
+  const forms::Screen maximised = frontend.work_area.value_or(screen);
+  form_ = std::make_shared<forms::Form>(kFormHandle, maximised.Width(), maximised.Height());
   form_->SetCaption(u"Ferlan");
   form_->SetWidth(kFormWidth);
   form_->SetHeight(kFormHeight);
@@ -88,7 +89,9 @@ Session::~Session() {
 ObjectRef Session::EnvObject() { return std::make_shared<kit::Env>(env_); }
 
 std::shared_ptr<forms::PictureBox> Session::NewPictureBox() {
-  return std::make_shared<forms::PictureBox>(canvas_factory_());
+  auto box = std::make_shared<forms::PictureBox>(canvas_factory_());
+  form_->AddControl(box);
+  return box;
 }
 
 }  // namespace ferlan::headless

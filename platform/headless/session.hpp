@@ -41,10 +41,12 @@ namespace ferlan::headless {
 
 // What another front-end brings to a session in place of the headless
 // one's: its event loop (null: the headless loop on the virtual clock), its
-// screen, and its clipboard (null: the in-process one).
+// screen, the size a maximised form takes (none: the screen's), and its
+// clipboard (null: the in-process one).
 struct Frontend {
   forms::EventLoop* loop = nullptr;
   std::optional<forms::Screen> screen;
+  std::optional<forms::Screen> work_area;
   std::unique_ptr<ferlan::Clipboard> clipboard;
 };
 
@@ -86,8 +88,10 @@ class Session {
   KeyScript& Keys() { return keys_; }
   RecordingDessin& Recorder() { return *recorder_; }
 
-  // A new picture control on the session's canvas kind, not on the form:
-  // for objects a caller names and passes to the component.
+  // A new picture control on the session's canvas kind, not a member of
+  // the form: for objects a caller names and passes to the component. The
+  // form counts it among its controls, which a picture of the form shows
+  // on the surface while it is Visible.
   std::shared_ptr<forms::PictureBox> NewPictureBox();
 
   String ClipboardText() { return global_->Clipboard().GetText(); }

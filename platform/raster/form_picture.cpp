@@ -11,9 +11,10 @@
 #include <string_view>
 #include <vector>
 
+#include "forms/form.hpp"
+#include "forms/picture_box.hpp"
 #include "raster/picture_files.hpp"
 #include "raster/pixel_words.hpp"
-#include "forms/picture_box.hpp"
 #include "raster/raster_canvas.hpp"
 
 namespace ferlan::raster {
@@ -89,30 +90,31 @@ const forms::Bitmap* AsBitmap(const PictureRef& picture) {
   return dynamic_cast<const forms::Bitmap*>(picture.get());
 }
 
-// Where a picture control's inner area lies on the form, in pixels.
-struct Inner {
-  int x = 0;
-  int y = 0;
-  int w = 0;
-  int h = 0;
-};
+int Border(PictureBox& box) { return PixelOfTwips((box.Width() - box.ScaleWidth()) / 2); }
+
+const RasterCanvas* RasterOf(PictureBox& box) {
+  auto* own = dynamic_cast<forms::PictureBox*>(&box);
+  return own ? dynamic_cast<const RasterCanvas*>(&own->GetCanvas()) : nullptr;
+}
+
+PixelRect InnerRectFrom(PictureBox& box, int origin_x, int origin_y) {
+  const int border = Border(box);
+  return {origin_x + PixelOfTwips(box.Left()) + border, origin_y + PixelOfTwips(box.Top()) + border,
+          PixelsOfSize(box.ScaleWidth()), PixelsOfSize(box.ScaleHeight())};
+}
 
 // A picture control at its place: its border, its canvas, its picture.
-Inner DrawPictureBox(cairo_t* cr, PictureBox& box, int origin_x, int origin_y) {
-  const int border = PixelOfTwips((box.Width() - box.ScaleWidth()) / 2);
-  const int left = origin_x + PixelOfTwips(box.Left());
-  const int top = origin_y + PixelOfTwips(box.Top());
-  Inner inner{left + border, top + border, PixelsOfSize(box.ScaleWidth()),
-              PixelsOfSize(box.ScaleHeight())};
+PixelRect DrawPictureBox(cairo_t* cr, PictureBox& box, int origin_x = 0, int origin_y = 0) {
+  const int border = Border(box);
+  const PixelRect inner = InnerRectFrom(box, origin_x, origin_y);
   if (border > 0) {
     // A sunken single border: a grey line outside a dark one.
     const int w = inner.w + 2 * border, h = inner.h + 2 * border;
-    Fill(cr, left, top, w, h, kShadow);
-    Fill(cr, left + 1, top + 1, w - 2, h - 2, kDarkShadow);
+    Fill(cr, inner.x - border, inner.y - border, w, h, kShadow);
+    Fill(cr, inner.x - border + 1, inner.y - border + 1, w - 2, h - 2, kDarkShadow);
   }
   Fill(cr, inner.x, inner.y, inner.w, inner.h, box.BackColor());
-  auto* own = dynamic_cast<forms::PictureBox*>(&box);
-  if (auto* raster = own ? dynamic_cast<const RasterCanvas*>(&own->GetCanvas()) : nullptr) {
+  if (const RasterCanvas* raster = RasterOf(box)) {
     // Straight from the canvas's pixels: the same picture as its snapshot.
     raster->PaintOnto(cr, inner.x, inner.y, std::min(inner.w, raster->PixelWidth()),
                       std::min(inner.h, raster->PixelHeight()));
@@ -127,32 +129,86 @@ Inner DrawPictureBox(cairo_t* cr, PictureBox& box, int origin_x, int origin_y) {
   return inner;
 }
 
-void DrawCaret(cairo_t* cr, PictureBox& caret, const Inner& surface) {
+// The caret's place, unclipped.
+PixelRect CaretPlace(PictureBox& caret, const PixelRect& surface) {
   const forms::Bitmap* picture = AsBitmap(caret.Picture());
-  const int w = caret.Width() > 0 ? PixelsOfSize(caret.Width()) : (picture ? picture->PixelWidth() : 0);
+  const int w =
+      caret.Width() > 0 ? PixelsOfSize(caret.Width()) : (picture ? picture->PixelWidth() : 0);
   const int h =
       caret.Height() > 0 ? PixelsOfSize(caret.Height()) : (picture ? picture->PixelHeight() : 0);
-  const int x = surface.x + PixelOfTwips(caret.Left());
-  const int y = surface.y + PixelOfTwips(caret.Top());
+  return {surface.x + PixelOfTwips(caret.Left()), surface.y + PixelOfTwips(caret.Top()), w, h};
+}
+
+void DrawCaret(cairo_t* cr, PictureBox& caret, const PixelRect& surface) {
+  const forms::Bitmap* picture = AsBitmap(caret.Picture());
+  const PixelRect at = CaretPlace(caret, surface);
   cairo_save(cr);
   cairo_rectangle(cr, surface.x, surface.y, surface.w, surface.h);
   cairo_clip(cr);
   if (picture != nullptr) {
-    PaintBitmap(cr, *picture, x, y, w, h);
+    PaintBitmap(cr, *picture, at.x, at.y, at.w, at.h);
   } else {
-    Fill(cr, x, y, w, h, caret.BackColor());
+    Fill(cr, at.x, at.y, at.w, at.h, caret.BackColor());
   }
   cairo_restore(cr);
 }
 
 }  // namespace
 
+PixelRect InnerRect(PictureBox& box) { return InnerRectFrom(box, 0, 0); }
+
+std::vector<PictureBox*> SurfaceChildren(Form& form, PictureBox* surface) {
+  std::vector<PictureBox*> children;
+  auto* own = dynamic_cast<forms::Form*>(&form);
+  if (own == nullptr) return children;
+  const auto* zone = OptionalMember<PictureBox>(form, "zoneMessage").get();
+  const auto* caret = OptionalMember<PictureBox>(form, "Caret").get();
+  const auto* main_surface = OptionalMember<PictureBox>(form, "ZoneAff").get();
+  for (const ObjectRef& object : own->Controls()) {
+    auto* box = dynamic_cast<PictureBox*>(object.get());
+    if (box == nullptr || box == surface || box == zone || box == caret || box == main_surface) {
+      continue;
+    }
+    children.push_back(box);
+  }
+  return children;
+}
+
+PixelRect ChildRect(PictureBox& child, PictureBox& surface) {
+  if (!child.Visible() || !surface.Visible()) return {};
+  const PixelRect parent = InnerRect(surface);
+  const int border = Border(child);
+  const PixelRect inner = InnerRectFrom(child, parent.x, parent.y);
+  return PixelRect{inner.x - border, inner.y - border, inner.w + 2 * border, inner.h + 2 * border}
+      .Intersection(parent);
+}
+
+PixelRect CanvasDamageOnForm(PictureBox& box, const PixelRect& damage) {
+  if (damage.Empty()) return {};
+  const PixelRect inner = InnerRect(box);
+  const RasterCanvas* raster = RasterOf(box);
+  if (raster == nullptr) return inner;
+  const int w = std::min(inner.w, raster->PixelWidth());
+  const int h = std::min(inner.h, raster->PixelHeight());
+  // A canvas squeezed into a smaller area: any of its changes may show
+  // anywhere in it.
+  if (w != raster->PixelWidth() || h != raster->PixelHeight()) return {inner.x, inner.y, w, h};
+  return PixelRect{inner.x + damage.x, inner.y + damage.y, damage.w, damage.h}.Intersection(
+      {inner.x, inner.y, w, h});
+}
+
+PixelRect CaretRect(PictureBox& caret, PictureBox& surface) {
+  if (!caret.Visible() || !surface.Visible()) return {};
+  const PixelRect inner = InnerRect(surface);
+  return CaretPlace(caret, inner).Intersection(inner);
+}
+
 PixelSize FormPixelSize(Form& form) {
   return {PixelsOfSize(form.ScaleWidth()), PixelsOfSize(form.ScaleHeight())};
 }
 
 void ComposeFormOnto(Form& form, PictureBox* surface, unsigned char* data, PixelSize size,
-                     int stride) {
+                     int stride, const std::vector<PixelRect>* clip) {
   PictureBoxRef own_surface;
   if (surface == nullptr) {
     own_surface = std::dynamic_pointer_cast<PictureBox>(form.Member("ZoneAff"));
@@ -174,6 +230,13 @@ void ComposeFormOnto(Form& form, PictureBox* surface, unsigned char* data, Pixel
   CheckCairo(cairo_surface_status(image));
   CheckCairo(cairo_status(cr));
   cairo_set_antialias(cr, CAIRO_ANTIALIAS_NONE);
+  if (clip != nullptr) {
+    // Whole pixels: the drawing inside is the very same as without a clip.
+    for (const PixelRect& r : *clip) {
+      if (!r.Empty()) cairo_rectangle(cr, r.x, r.y, r.w, r.h);
+    }
+    cairo_clip(cr);
+  }
   Fill(cr, 0, 0, width, height, FormBackColour(form));
 
   if (auto toolbar = OptionalMember<Control>(form, "BarreOutils"); toolbar && toolbar->Visible()) {
@@ -182,10 +245,21 @@ void ComposeFormOnto(Form& form, PictureBox* surface, unsigned char* data, Pixel
     Fill(cr, x, y, w, h, kToolbarFace);
     Fill(cr, x, y + h - 1, w, std::min(h, 1), kShadow);
   }
-  Inner inner;
-  if (surface->Visible()) inner = DrawPictureBox(cr, *surface, 0, 0);
+  PixelRect inner;
+  if (surface->Visible()) {
+    inner = DrawPictureBox(cr, *surface);
+    // The host's own picture controls, children of the surface.
+    for (PictureBox* child : SurfaceChildren(form, surface)) {
+      if (!child->Visible()) continue;
+      cairo_save(cr);
+      cairo_rectangle(cr, inner.x, inner.y, inner.w, inner.h);
+      cairo_clip(cr);
+      DrawPictureBox(cr, *child, inner.x, inner.y);
+      cairo_restore(cr);
+    }
+  }
   if (auto zone = OptionalMember<PictureBox>(form, "zoneMessage"); zone && zone->Visible()) {
-    DrawPictureBox(cr, *zone, 0, 0);
+    DrawPictureBox(cr, *zone);
   }
   if (auto caret = OptionalMember<PictureBox>(form, "Caret");
       caret && caret->Visible() && surface->Visible()) {

@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <cstring>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "raster/glyph_cache.hpp"
@@ -80,6 +81,53 @@ bool ClipToBox(double (&ends)[4], double left, double top, double right, double 
 
 }  // namespace
 
+PixelRect PixelRect::Union(const PixelRect& o) const {
+  if (o.Empty()) return *this;
+  if (Empty()) return o;
+  const int left = std::min(x, o.x), top = std::min(y, o.y);
+  return {left, top, std::max(x + w, o.x + o.w) - left, std::max(y + h, o.y + o.h) - top};
+}
+
+PixelRect PixelRect::Intersection(const PixelRect& o) const {
+  const int left = std::max(x, o.x), top = std::max(y, o.y);
+  const int right = std::min(x + w, o.x + o.w), bottom = std::min(y + h, o.y + o.h);
+  if (right <= left || bottom <= top) return {};
+  return {left, top, right - left, bottom - top};
+}
+
+void AddRect(std::vector<PixelRect>& rects, PixelRect r, std::size_t most) {
+  if (r.Empty()) return;
+  const auto area = [](const PixelRect& a) {
+    return static_cast<std::int64_t>(a.w) * static_cast<std::int64_t>(a.h);
+  };
+  // Joined with every rectangle it overlaps, until it overlaps none.
+  for (std::size_t i = 0; i < rects.size();) {
+    if (!rects[i].Intersection(r).Empty()) {
+      r = r.Union(rects[i]);
+      rects.erase(rects.begin() + static_cast<std::ptrdiff_t>(i));
+      i = 0;
+    } else {
+      ++i;
+    }
+  }
+  if (!rects.empty() && rects.size() >= std::max<std::size_t>(most, 1)) {
+    std::size_t best = 0;
+    std::int64_t least = -1;
+    for (std::size_t i = 0; i < rects.size(); ++i) {
+      const std::int64_t growth = area(rects[i].Union(r)) - area(rects[i]) - area(r);
+      if (least < 0 || growth < least) {
+        least = growth;
+        best = i;
+      }
+    }
+    r = r.Union(rects[best]);
+    rects.erase(rects.begin() + static_cast<std::ptrdiff_t>(best));
+    AddRect(rects, r, most);
+    return;
+  }
+  rects.push_back(r);
+}
+
 struct RasterCanvas::Surface {
   cairo_surface_t* image = nullptr;
   cairo_t* cr = nullptr;
@@ -87,6 +135,8 @@ struct RasterCanvas::Surface {
   int height = 0;
   // What a grown canvas shows where nothing was drawn: the last clearing.
   std::uint32_t background = kWhite;
+  // What changed since the front-end last asked.
+  std::vector<PixelRect> damage;
 
   Surface(int w, int h, std::uint32_t back) : width(w), height(h), background(back) {
     image = cairo_image_surface_create(CAIRO_FORMAT_RGB24, w, h);
@@ -109,8 +159,13 @@ struct RasterCanvas::Surface {
   Surface(const Surface&) = delete;
   Surface& operator=(const Surface&) = delete;
 
+  void Damage(int x, int y, int w, int h) {
+    AddRect(damage, PixelRect{x, y, w, h}.Intersection({0, 0, width, height}));
+  }
+
   void FillPixels(int x, int y, int w, int h, std::uint32_t pixel) {
     if (w <= 0 || h <= 0) return;
+    Damage(x, y, w, h);
     SetColour(cr, pixel);
     cairo_rectangle(cr, x, y, w, h);
     cairo_fill(cr);
@@ -166,6 +221,7 @@ void RasterCanvas::Resize(Single width, Single height) {
   cairo_fill(grown->cr);
   cairo_set_source_rgb(grown->cr, 0, 0, 0);  // let go of the old image
   Check(cairo_status(grown->cr), "resizing a surface");
+  grown->damage = {PixelRect{0, 0, w, h}};
   surface_ = std::move(grown);
 }
 
@@ -205,6 +261,8 @@ void RasterCanvas::Line(Single x1, Single y1, Single x2, Single y2, Long colour)
   const int px1 = ClampedPixel(ends[0]), py1 = ClampedPixel(ends[1]);
   const int px2 = ClampedPixel(ends[2]), py2 = ClampedPixel(ends[3]);
   SetColour(s.cr, pixel);
+  s.Damage(std::min(px1, px2), std::min(py1, py2), std::abs(px2 - px1) + 1,
+           std::abs(py2 - py1) + 1);
   cairo_move_to(s.cr, px1 + 0.5, py1 + 0.5);
   cairo_line_to(s.cr, px2 + 0.5, py2 + 0.5);
   cairo_stroke(s.cr);
@@ -246,8 +304,8 @@ void RasterCanvas::Text(Single x, Single y, StringView text, const forms::FontSp
     max_y = std::max(max_y, gy + row1 - 1);
   });
   if (max_x >= min_x) {
-    cairo_surface_mark_dirty_rectangle(s.image, min_x, min_y, max_x - min_x + 1,
-                                       max_y - min_y + 1);
+    cairo_surface_mark_dirty_rectangle(s.image, min_x, min_y, max_x - min_x + 1, max_y - min_y + 1);
+    s.Damage(min_x, min_y, max_x - min_x + 1, max_y - min_y + 1);
   }
 }
 
@@ -270,6 +328,7 @@ void RasterCanvas::Paint(const Picture& picture, Single x, Single y) {
       reinterpret_cast<unsigned char*>(words.data()), CAIRO_FORMAT_RGB24, w, h, w * 4);
   Check(cairo_surface_status(source), "reading a picture");
   const int px = PixelOfTwips(x), py = PixelOfTwips(y);
+  s.Damage(px, py, w, h);
   cairo_set_source_surface(s.cr, source, px, py);
   cairo_rectangle(s.cr, px, py, w, h);
   cairo_fill(s.cr);
@@ -293,6 +352,8 @@ void RasterCanvas::PaintOnto(cairo_t* cr, int x, int y, int w, int h) const {
   cairo_paint(cr);
   cairo_restore(cr);
 }
+
+std::vector<PixelRect> RasterCanvas::TakeDamage() { return std::exchange(surface_->damage, {}); }
 
 int RasterCanvas::PixelWidth() const { return surface_->width; }
 int RasterCanvas::PixelHeight() const { return surface_->height; }

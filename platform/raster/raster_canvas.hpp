@@ -16,6 +16,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 #include "forms/canvas.hpp"
 #include "raster/pixel_words.hpp"
@@ -27,6 +28,24 @@ FERLAN_PUBLIC_BEGIN
 typedef struct _cairo cairo_t;
 
 namespace ferlan::raster {
+
+// A rectangle of pixels; empty when w or h is not positive.
+struct PixelRect {
+  int x = 0;
+  int y = 0;
+  int w = 0;
+  int h = 0;
+  bool Empty() const { return w <= 0 || h <= 0; }
+  // The smallest rectangle holding both.
+  PixelRect Union(const PixelRect& other) const;
+  PixelRect Intersection(const PixelRect& other) const;
+  friend bool operator==(const PixelRect&, const PixelRect&) = default;
+};
+
+// Adds `r` to a short list of rectangles that together cover all added:
+// it joins any it overlaps, and once the list holds `most`, the one it
+// grows least. Far-apart changes stay apart, so that little is redrawn.
+void AddRect(std::vector<PixelRect>& rects, PixelRect r, std::size_t most = 4);
 
 class RasterCanvas final : public forms::Canvas {
  public:
@@ -43,8 +62,7 @@ class RasterCanvas final : public forms::Canvas {
   void FillBox(Single x1, Single y1, Single x2, Single y2, Long colour) override;
   void Box(Single x1, Single y1, Single x2, Single y2, Long colour) override;
   void Line(Single x1, Single y1, Single x2, Single y2, Long colour) override;
-  void Text(Single x, Single y, StringView text, const forms::FontSpec& font,
-            Long colour) override;
+  void Text(Single x, Single y, StringView text, const forms::FontSpec& font, Long colour) override;
   PictureRef Snapshot() override;
   void Paint(const Picture& picture, Single x, Single y) override;
 
@@ -55,6 +73,10 @@ class RasterCanvas final : public forms::Canvas {
   // Counts the calls that changed what the canvas shows: a front-end that
   // sees it unchanged has nothing new to present.
   std::uint64_t Changes() const { return changes_; }
+  // The pixels the calls changed since the last TakeDamage (the whole
+  // canvas after a Resize or a Clear), as a few rectangles, and starts
+  // afresh: a front-end copies only those to the screen.
+  std::vector<PixelRect> TakeDamage();
   // What the canvas shows, painted at (x, y) stretched to w x h pixels with
   // whole pixels repeated, as a snapshot of it would paint: composing the
   // form without copying the canvas.

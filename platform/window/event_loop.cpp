@@ -30,10 +30,15 @@ std::int64_t EventLoop::Now() const {
 }
 
 void EventLoop::DoEvents() {
-  Present();
+  // What the host drew since the last DoEvents is news to the polling
+  // timers: they tick at once, so that their effect (the caret following
+  // the text) shows in the same frame.
+  const bool news = changed_ && changed_();
+  if (news) Unpark();
   Pump();
-  bool acted = DeliverOne();
-  acted = FireDueTimers() || acted;
+  const bool key = DeliverOne();
+  bool acted = FireDueTimers(news || key) || key;
+  Present();
   if (!acted && keys_.empty() && idle_turns_++ > 0) {
     const std::int64_t budget = SleepBudget();
     if (budget > 0) {
@@ -41,20 +46,16 @@ void EventLoop::DoEvents() {
       ++sleeps_;
       if (SDL_WaitEventTimeout(&event, static_cast<int>(budget)) != 0) Handle(event);
       Pump();
-      acted = DeliverOne();
-      acted = FireDueTimers() || acted;
+      const bool woken_key = DeliverOne();
+      acted = FireDueTimers(woken_key) || woken_key;
+      Present();
     }
   }
   if (acted) idle_turns_ = 0;
   if (closed_ && write_abandon_) write_abandon_(true);
-  Present();
 }
 
-bool EventLoop::Present() {
-  const bool shown = present_ && present_();
-  if (shown) Unpark();
-  return shown;
-}
+bool EventLoop::Present() { return present_ && present_(); }
 
 void EventLoop::Unpark() {
   for (TimerEntry& entry : timers_) entry.parked = false;
@@ -176,28 +177,36 @@ TimerRef EventLoop::CreateTimer(std::function<void()> on_tick) {
   return timer;
 }
 
-bool EventLoop::FireDueTimers() {
+bool EventLoop::FireDueTimers(bool news) {
   // Dropped timers leave the list only outside any tick, so that the walk
   // of an outer DoEvents keeps its place when a tick runs DoEvents.
   if (firing_depth_ == 0) {
     std::erase_if(timers_, [](const TimerEntry& t) { return t.timer.expired(); });
   }
-  std::vector<std::size_t> polling;  // the polling timers that ticked
-  bool scheduled = false;            // a timer of the resolution or longer ticked
+  bool fired = false;
   ++firing_depth_;
   try {
     // By index: a tick may make a timer, which comes last.
     for (std::size_t i = 0; i < timers_.size(); ++i) {
       std::shared_ptr<forms::Timer> timer = timers_[i].timer.lock();
       const std::int64_t now = Now();
-      if (timer && timer->Due(now) && now - timers_[i].last_fired >= kTimerResolutionMs) {
-        timers_[i].last_fired = now;
-        if (timer->Interval() < kTimerResolutionMs) {
-          polling.push_back(i);
-        } else {
-          scheduled = true;
-        }
+      if (!timer) continue;
+      const bool polling = timer->Interval() < kTimerResolutionMs;
+      // News makes a running polling timer tick at once, whatever its pace.
+      const bool at_once = polling && news && timer->NextDue().has_value();
+      if (!at_once && (!timer->Due(now) || now - timers_[i].last_fired < kTimerResolutionMs)) {
+        continue;
+      }
+      timers_[i].last_fired = now;
+      fired = true;
+      if (polling) {
+        // It has seen everything done so far; what comes later wakes it.
+        timers_[i].parked = true;
         timer->Fire(now);
+      } else {
+        timer->Fire(now);
+        // This tick may have changed what the polling timers look at.
+        Unpark();
       }
     }
   } catch (...) {
@@ -205,16 +214,7 @@ bool EventLoop::FireDueTimers() {
     throw;
   }
   --firing_depth_;
-  if (polling.empty() && !scheduled) return false;
-  // A scheduled tick may have changed what the polling timers look at; a
-  // polling tick that changed nothing on the screen waits for news.
-  if (!Present() && !scheduled) {
-    for (std::size_t i : polling) {
-      if (i < timers_.size()) timers_[i].parked = true;
-    }
-  }
-  if (scheduled) Unpark();
-  return true;
+  return fired;
 }
 
 std::int64_t EventLoop::SleepBudget() {
@@ -229,8 +229,10 @@ std::int64_t EventLoop::SleepBudget() {
   }
   if (script_ != nullptr && !script_->Empty() && !closed_) {
     if (script_->Front().kind != headless::KeyItem::Kind::Wait) return 0;
-    if (script_wait_until_ >= 0) next = std::min(next, script_wait_until_);
-    else return 0;
+    if (script_wait_until_ >= 0)
+      next = std::min(next, script_wait_until_);
+    else
+      return 0;
   }
   return std::max<std::int64_t>(0, next - now);
 }

@@ -10,12 +10,13 @@
 //
 // Timers: a timer fires when its interval has passed since it started or
 // last fired, and at least kTimerResolutionMs since it last fired. A timer
-// shorter than that resolution polls (the caret's follower, 1 ms): once a
-// tick of it changes nothing the window shows, it no longer wakes the loop
-// by itself; it ticks again when the loop wakes for anything else (a key, a
-// window event, another timer's tick, a frame drawn), and keeps ticking at
-// the resolution for as long as its ticks change what shows. Timers of the
-// resolution or longer keep their schedule.
+// shorter than that resolution polls (the caret's follower, 1 ms): it ticks
+// once after each piece of news, that is a key delivered, the host having
+// drawn since the last DoEvents (both: at once, so that its effect shares
+// their frame), a window event or another timer's tick (at the resolution),
+// and then no longer wakes the loop by itself: it ticks again when the loop
+// wakes for anything else. Timers of the resolution or longer keep their
+// schedule.
 //
 // Idle: a DoEvents that finds nothing to do returns at once the first time;
 // when it is called again with still nothing to do (the caller is waiting
@@ -64,10 +65,13 @@ class EventLoop final : public forms::EventLoop {
   void SetWindowEventHandler(std::function<void(const SDL_Event&)> handle) {
     window_events_ = std::move(handle);
   }
-  // Runs at the start and the end of each DoEvents and after timer ticks:
-  // the window shows there what was drawn, and says whether it presented a
-  // frame.
+  // Runs once in each DoEvents, after keys and timers, and again after a
+  // sleep: the window shows there what was drawn, and says whether it
+  // presented a frame.
   void SetFrameHook(std::function<bool()> present) { present_ = std::move(present); }
+  // Says, without drawing, whether the window would show something new:
+  // checked at the start of each DoEvents.
+  void SetChangeCheck(std::function<bool()> changed) { changed_ = std::move(changed); }
 
   void DoEvents() override;
   TimerRef CreateTimer(std::function<void()> on_tick) override;
@@ -85,7 +89,9 @@ class EventLoop final : public forms::EventLoop {
   struct TimerEntry {
     std::weak_ptr<forms::Timer> timer;
     std::int64_t last_fired = -kTimerResolutionMs;
-    bool parked = false;  // a polling timer whose last tick changed nothing
+    // A polling timer that has seen the latest news: it does not wake the
+    // loop by itself.
+    bool parked = false;
   };
 
   void Pump();
@@ -94,11 +100,11 @@ class EventLoop final : public forms::EventLoop {
   // Delivers one keystroke; gives false when none is waiting.
   bool DeliverOne();
   bool DeliverScriptItem();
-  // Gives whether any timer fired.
-  bool FireDueTimers();
+  // Gives whether any timer fired. `news`: a keystroke was just delivered
+  // or the host drew; the polling timers then tick at once.
+  bool FireDueTimers(bool news);
   // Milliseconds until the next thing to do, kLongestSleepMs at most.
   std::int64_t SleepBudget();
-  // Presents what was drawn; a frame wakes the polling timers.
   bool Present();
   void Unpark();
 
@@ -108,6 +114,7 @@ class EventLoop final : public forms::EventLoop {
   std::function<void(Boolean)> write_abandon_;
   std::function<void(const SDL_Event&)> window_events_;
   std::function<bool()> present_;
+  std::function<bool()> changed_;
   std::deque<headless::KeyItem> keys_;
   // The last keystroke queued may still take the text its key types.
   bool text_may_follow_ = false;

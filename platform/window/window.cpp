@@ -6,6 +6,7 @@
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
+#include <ctime>
 #include <optional>
 #include <string>
 #include <vector>
@@ -26,6 +27,8 @@ namespace {
 
 constexpr Single kTwips = raster::kTwipsPerPixel;
 constexpr Uint32 kButtonFace = 0x00F0F0F0;  // what shows beyond a smaller frame
+// The rectangles a frame redraws at most; more are joined.
+constexpr std::size_t kMostRects = 6;
 
 // What a control shows of itself; a frame is due when it changes.
 struct Look {
@@ -41,7 +44,20 @@ struct Scene {
   Single scale_width = 0, scale_height = 0;
   const void* surface = nullptr;
   Look surface_look, toolbar, zone, caret;
+  std::vector<Look> children;  // the host's picture controls on the surface
   friend bool operator==(const Scene&, const Scene&) = default;
+
+  // Whether the two differ only by what was drawn on the canvases and by
+  // the caret: then a frame redraws only those rectangles.
+  bool SameLayout(const Scene& other) const {
+    Scene a = *this, b = other;
+    for (Scene* s : {&a, &b}) {
+      s->surface_look.drawn = s->zone.drawn = 0;
+      s->caret = {};
+      for (Look& child : s->children) child.drawn = 0;
+    }
+    return a == b;
+  }
 };
 
 Look LookOf(Control* control) {
@@ -66,13 +82,46 @@ Look LookOf(Control* control) {
   return look;
 }
 
-Look MemberLook(forms::Form& form, std::string_view name) {
+// The form's member of that name, or null when it has none of that kind;
+// the form keeps it.
+template <typename T>
+T* MemberOf(forms::Form& form, std::string_view name) {
   try {
-    return LookOf(dynamic_cast<Control*>(form.Member(name).get()));
+    return dynamic_cast<T*>(form.Member(name).get());
   } catch (const PlatformError&) {
-    return {};
+    return nullptr;
   }
 }
+
+// Adds the changes drawn on the control's canvas since the last frame to
+// `damage`, where they show on the form.
+void TakeDamage(PictureBox* box, std::vector<raster::PixelRect>& damage) {
+  auto* own = dynamic_cast<forms::PictureBox*>(box);
+  if (own == nullptr) return;
+  auto* canvas = dynamic_cast<raster::RasterCanvas*>(&own->GetCanvas());
+  if (canvas == nullptr) return;
+  for (const raster::PixelRect& r : canvas->TakeDamage()) {
+    raster::AddRect(damage, raster::CanvasDamageOnForm(*box, r), kMostRects);
+  }
+}
+
+// Adds the processor time of this thread over its life to `total`.
+class ThreadTimeMeter {
+ public:
+  explicit ThreadTimeMeter(std::atomic<std::int64_t>& total) : total_(total), start_(Now()) {}
+  ~ThreadTimeMeter() { total_ += Now() - start_; }
+  ThreadTimeMeter(const ThreadTimeMeter&) = delete;
+  ThreadTimeMeter& operator=(const ThreadTimeMeter&) = delete;
+
+ private:
+  static std::int64_t Now() {
+    timespec t{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &t);
+    return static_cast<std::int64_t>(t.tv_sec) * 1'000'000'000 + t.tv_nsec;
+  }
+  std::atomic<std::int64_t>& total_;
+  std::int64_t start_;
+};
 
 #if FERLAN_WINDOW_XLIB && defined(SDL_VIDEO_DRIVER_X11)
 // Xlib's own handler ends the process on any protocol error, such as a
@@ -121,7 +170,6 @@ bool DisplayAvailable(std::string* why) {
   return true;
 }
 
-
 struct Window::Impl {
   SDL_Window* window = nullptr;
   EventLoop loop;
@@ -130,20 +178,33 @@ struct Window::Impl {
   // What the window shows now, so that the form's changes are told apart
   // from the window manager's.
   raster::PixelSize shown_size;
+  Single shown_left = 0, shown_top = 0;
   Integer shown_state = 0;
   String shown_caption;
-  std::optional<Scene> scene;  // of the frame presented last
+  std::optional<Scene> scene;    // of the frame presented last
+  raster::PixelRect caret_rect;  // where the caret shows in that frame
   bool expose = false;
+  // The last frame, kept whole: a new one redraws only what changed.
   std::vector<std::uint32_t> frame;
   raster::PixelSize frame_size;
+  // The window's pixels the last frame went to; another (the window was
+  // resized) takes the whole frame.
+  const SDL_Surface* shown_target = nullptr;
+  raster::PixelSize shown_target_size;
   // Read by benchmarks from another thread.
   std::atomic<std::uint64_t> frames{0};
   std::atomic<std::chrono::steady_clock::time_point> last_frame{};
+  std::atomic<std::int64_t> frame_cpu_ns{0};
 
   void OnWindowEvent(const SDL_Event& event);
+  // What the form shows now, as the frame check compares it.
+  Scene Current(forms::Form& form, kit::EnvState& env) const;
   void Sync(forms::Form& form);
-  void Compose(forms::Form& form, PictureBox* surface);
-  void Show();
+  // Redraws the frame, only inside `damage` when given.
+  void Compose(forms::Form& form, PictureBox* surface,
+               const std::vector<raster::PixelRect>* damage);
+  // Copies the frame to the window, only `damage` when given.
+  void Show(const std::vector<raster::PixelRect>* damage);
 };
 
 Window::Window(const std::string& title) : impl_(std::make_unique<Impl>()) {
@@ -161,14 +222,20 @@ Window::Window(const std::string& title) : impl_(std::make_unique<Impl>()) {
   impl_->shown_size = {640, 480};
   impl_->shown_caption = FromUtf8(title);
   SDL_StartTextInput();
-  impl_->loop.SetWindowEventHandler([impl = impl_.get()](const SDL_Event& e) {
-    impl->OnWindowEvent(e);
-  });
+  impl_->loop.SetWindowEventHandler(
+      [impl = impl_.get()](const SDL_Event& e) { impl->OnWindowEvent(e); });
   impl_->loop.SetFrameHook([this] { return Present(); });
+  impl_->loop.SetChangeCheck([impl = impl_.get()] {
+    const std::shared_ptr<forms::Form> form = impl->form.lock();
+    const std::shared_ptr<kit::EnvState> env = impl->env.lock();
+    return form && env && !impl->loop.Closed() &&
+           (impl->expose || impl->scene != impl->Current(*form, *env));
+  });
 }
 
 Window::~Window() {
   impl_->loop.SetFrameHook(nullptr);
+  impl_->loop.SetChangeCheck(nullptr);
   SDL_DestroyWindow(impl_->window);
   SDL_QuitSubSystem(SDL_INIT_VIDEO);
 }
@@ -177,11 +244,19 @@ std::unique_ptr<headless::Session> Window::OpenSession() {
   headless::Frontend frontend;
   frontend.loop = &impl_->loop;
   frontend.screen = Screen();
+  frontend.work_area = WorkArea();
   frontend.clipboard = SystemClipboard();
-  auto session = std::make_unique<headless::Session>(raster::RasterCanvasFactory(),
-                                                     std::move(frontend));
+  auto session =
+      std::make_unique<headless::Session>(raster::RasterCanvasFactory(), std::move(frontend));
   session->Global().SetPngDecoder(raster::DecodePng);
   impl_->form = session->FormRef();
+  // The window stays where it opened until the form is moved.
+  int x = 0, y = 0;
+  SDL_GetWindowPosition(impl_->window, &x, &y);
+  session->Form().SetLeft(static_cast<Single>(x) * kTwips);
+  session->Form().SetTop(static_cast<Single>(y) * kTwips);
+  impl_->shown_left = session->Form().Left();
+  impl_->shown_top = session->Form().Top();
   impl_->env = session->EnvRef();
   impl_->scene.reset();
   impl_->loop.SetForm(session->FormRef());
@@ -194,6 +269,16 @@ std::unique_ptr<headless::Session> Window::OpenSession() {
 }
 
 EventLoop& Window::Loop() { return impl_->loop; }
+
+forms::Screen Window::WorkArea() const {
+  SDL_Rect usable;
+  const int display = std::max(0, SDL_GetWindowDisplayIndex(impl_->window));
+  if (SDL_GetDisplayUsableBounds(display, &usable) != 0 || usable.w <= 0 || usable.h <= 0) {
+    return Screen();
+  }
+  return forms::Screen(static_cast<Single>(usable.w) * kTwips,
+                       static_cast<Single>(usable.h) * kTwips);
+}
 
 forms::Screen Window::Screen() const {
   SDL_DisplayMode mode;
@@ -218,6 +303,10 @@ unsigned long Window::NativeHandle() const {
 
 std::uint64_t Window::Frames() const { return impl_->frames; }
 
+std::chrono::nanoseconds Window::FrameProcessorTime() const {
+  return std::chrono::nanoseconds(impl_->frame_cpu_ns.load());
+}
+
 std::chrono::steady_clock::time_point Window::LastFrameTime() const { return impl_->last_frame; }
 
 bool Window::Present() {
@@ -227,23 +316,64 @@ bool Window::Present() {
   if (!form || !env || Closed()) return false;
   impl.Sync(*form);
   PictureBox* surface = env->surface.get();
-  Scene scene;
-  scene.scale_width = form->ScaleWidth();
-  scene.scale_height = form->ScaleHeight();
-  scene.surface = surface;
-  scene.surface_look = LookOf(surface);
-  scene.toolbar = MemberLook(*form, "BarreOutils");
-  scene.zone = MemberLook(*form, "zoneMessage");
-  scene.caret = MemberLook(*form, "Caret");
+  auto* zone = MemberOf<PictureBox>(*form, "zoneMessage");
+  auto* caret = MemberOf<PictureBox>(*form, "Caret");
+  const Scene scene = impl.Current(*form, *env);
   if (impl.scene == scene && !impl.expose) return false;
+  const ThreadTimeMeter meter(impl.frame_cpu_ns);
   if (impl.scene != scene) {
     if (surface == nullptr) return false;
-    impl.Compose(*form, surface);
-    impl.scene = scene;
+    // Taken at every frame, so that each holds what was drawn since the
+    // frame before.
+    std::vector<raster::PixelRect> damage;
+    TakeDamage(surface, damage);
+    TakeDamage(zone, damage);
+    const raster::PixelRect caret_rect =
+        caret ? raster::CaretRect(*caret, *surface) : raster::PixelRect{};
+    if (impl.scene && impl.scene->SameLayout(scene) && !impl.frame.empty()) {
+      const std::vector<PictureBox*> children = raster::SurfaceChildren(*form, surface);
+      for (std::size_t i = 0; i < children.size(); ++i) {
+        if (impl.scene->children[i].drawn != scene.children[i].drawn) {
+          raster::AddRect(damage, raster::ChildRect(*children[i], *surface), kMostRects);
+        }
+      }
+      if (impl.scene->caret != scene.caret) {
+        // The caret's old place shows again what lies under it.
+        raster::AddRect(damage, impl.caret_rect, kMostRects);
+        raster::AddRect(damage, caret_rect, kMostRects);
+      }
+      impl.scene = scene;
+      impl.caret_rect = caret_rect;
+      if (damage.empty() && !impl.expose) return false;
+      impl.Compose(*form, surface, &damage);
+      if (!impl.expose) {
+        impl.Show(&damage);
+        return true;
+      }
+    } else {
+      impl.Compose(*form, surface, nullptr);
+      impl.scene = scene;
+      impl.caret_rect = caret_rect;
+    }
   }
   impl.expose = false;
-  impl.Show();
+  impl.Show(nullptr);
   return true;
+}
+
+Scene Window::Impl::Current(forms::Form& f, kit::EnvState& e) const {
+  Scene now;
+  now.scale_width = f.ScaleWidth();
+  now.scale_height = f.ScaleHeight();
+  now.surface = e.surface.get();
+  now.surface_look = LookOf(e.surface.get());
+  now.toolbar = LookOf(MemberOf<Control>(f, "BarreOutils"));
+  now.zone = LookOf(MemberOf<PictureBox>(f, "zoneMessage"));
+  now.caret = LookOf(MemberOf<PictureBox>(f, "Caret"));
+  for (PictureBox* child : raster::SurfaceChildren(f, e.surface.get())) {
+    now.children.push_back(LookOf(child));
+  }
+  return now;
 }
 
 void Window::Impl::Sync(forms::Form& f) {
@@ -260,6 +390,12 @@ void Window::Impl::Sync(forms::Form& f) {
     } else {
       SDL_RestoreWindow(window);
     }
+  }
+  if (f.Left() != shown_left || f.Top() != shown_top) {
+    shown_left = f.Left();
+    shown_top = f.Top();
+    SDL_SetWindowPosition(window, raster::PixelOfTwips(shown_left),
+                          raster::PixelOfTwips(shown_top));
   }
   const raster::PixelSize wanted = raster::FormPixelSize(f);
   if (shown_state == 0 && wanted != shown_size && wanted.width > 0 && wanted.height > 0) {
@@ -296,6 +432,14 @@ void Window::Impl::OnWindowEvent(const SDL_Event& event) {
       f->SetWindowState(state);
       return;
     }
+    case SDL_WINDOWEVENT_MOVED:
+      // The person moved the window: the form's place follows.
+      if (!f || shown_state != 0) return;
+      shown_left = static_cast<Single>(event.window.data1) * kTwips;
+      shown_top = static_cast<Single>(event.window.data2) * kTwips;
+      f->SetLeft(shown_left);
+      f->SetTop(shown_top);
+      return;
     case SDL_WINDOWEVENT_FOCUS_GAINED:
       if (auto e = env.lock(); e && f) e->active_window = f->hWnd();
       return;
@@ -307,31 +451,60 @@ void Window::Impl::OnWindowEvent(const SDL_Event& event) {
   }
 }
 
-void Window::Impl::Compose(forms::Form& f, PictureBox* surface) {
-  frame_size = raster::FormPixelSize(f);
-  frame.assign(static_cast<std::size_t>(frame_size.width) * frame_size.height, 0);
+void Window::Impl::Compose(forms::Form& f, PictureBox* surface,
+                           const std::vector<raster::PixelRect>* damage) {
+  if (damage == nullptr) {
+    frame_size = raster::FormPixelSize(f);
+    frame.assign(static_cast<std::size_t>(std::max(frame_size.width, 0)) *
+                     static_cast<std::size_t>(std::max(frame_size.height, 0)),
+                 0);
+  }
   raster::ComposeFormOnto(f, surface, reinterpret_cast<unsigned char*>(frame.data()), frame_size,
-                          frame_size.width * 4);
+                          frame_size.width * 4, damage);
 }
 
-void Window::Impl::Show() {
+void Window::Impl::Show(const std::vector<raster::PixelRect>* damage) {
   SDL_Surface* target = SDL_GetWindowSurface(window);
   if (target == nullptr) return;
-  if (target->w > frame_size.width || target->h > frame_size.height) {
+  if (target != shown_target || target->w != shown_target_size.width ||
+      target->h != shown_target_size.height) {
+    damage = nullptr;
+    shown_target = target;
+    shown_target_size = {target->w, target->h};
+  }
+  if (damage == nullptr && (target->w > frame_size.width || target->h > frame_size.height)) {
     SDL_FillRect(target, nullptr,
                  SDL_MapRGB(target->format, (kButtonFace >> 16) & 0xFF, (kButtonFace >> 8) & 0xFF,
                             kButtonFace & 0xFF));
   }
+  std::vector<SDL_Rect> rects;
   if (!frame.empty()) {
-    SDL_Surface* source = SDL_CreateRGBSurfaceWithFormatFrom(
-        frame.data(), frame_size.width, frame_size.height, 32, frame_size.width * 4,
-        SDL_PIXELFORMAT_RGB888);
+    SDL_Surface* source =
+        SDL_CreateRGBSurfaceWithFormatFrom(frame.data(), frame_size.width, frame_size.height, 32,
+                                           frame_size.width * 4, SDL_PIXELFORMAT_RGB888);
     if (source != nullptr) {
-      SDL_BlitSurface(source, nullptr, target, nullptr);
+      if (damage == nullptr) {
+        SDL_BlitSurface(source, nullptr, target, nullptr);
+      } else {
+        const raster::PixelRect bounds{0, 0, std::min(target->w, frame_size.width),
+                                       std::min(target->h, frame_size.height)};
+        for (const raster::PixelRect& r : *damage) {
+          const raster::PixelRect in = r.Intersection(bounds);
+          if (in.Empty()) continue;
+          SDL_Rect rect{in.x, in.y, in.w, in.h};
+          SDL_Rect to = rect;
+          SDL_BlitSurface(source, &rect, target, &to);
+          rects.push_back(rect);
+        }
+      }
       SDL_FreeSurface(source);
     }
   }
-  SDL_UpdateWindowSurface(window);
+  if (damage == nullptr) {
+    SDL_UpdateWindowSurface(window);
+  } else if (!rects.empty()) {
+    SDL_UpdateWindowSurfaceRects(window, rects.data(), static_cast<int>(rects.size()));
+  }
   last_frame = std::chrono::steady_clock::now();
   ++frames;
 }

@@ -6,8 +6,10 @@
 //      raster surface composes it (same composition, same pixels): back
 //      colour, toolbar, surface at its place, caret, message zone
 //  [X] a frame only when something was drawn or a control moved, showed,
-//      hid or resized; never in a loop; an uncovered window is re-shown
-//      from the last frame without drawing it again
+//      hid or resized; never in a loop; it composes and copies only the
+//      rectangles drawn on and the caret's old and new places when nothing
+//      else changed; an uncovered window is re-shown from the last frame
+//      without drawing it again
 //  [X] keys as the platform raises them, one keystroke a DoEvents: KeyDown
 //      with the virtual key and Shift mask, then KeyPress with the character
 //      the system's text input typed (any layout, dead keys, AltGr) in
@@ -20,16 +22,17 @@
 //      as the window's title, Width/Height resizing the window, the window
 //      manager's resize, maximise, minimise and restore reaching the form
 //      (its size, WindowState and resize handler)
+//  [X] Left/Top place the window (and follow the person moving it); a
+//      maximised form takes the work area the window manager leaves
 //  [X] Fenetres.Active follows the keyboard focus: the form's hWnd while the
 //      window has it, 0 while another window does
 //  [X] closing the window sets Env.Abandon, which ends every wait
 // Missing:
 //  [ ] the caption bar and frame are the window manager's: Form's fixed
 //      border room (kBorderX, kBorderY) is kept, whatever the real one is
-//  [ ] a maximised form reports the display's whole size, not the work
-//      area the window manager grants
-//  [ ] Left/Top are not applied to the window (the window manager places it)
-//  [ ] one window at a time: KyFSubst and other forms are not shown
+//  [ ] one window at a time: other forms are not shown (a substitute
+//      surface, KyFSubst, is a picture control of this form and shows on
+//      its surface)
 #pragma once
 
 #include <chrono>
@@ -70,6 +73,9 @@ class Window {
   EventLoop& Loop();
   // The display's size in twips.
   forms::Screen Screen() const;
+  // The part of the display the window manager leaves to windows (its
+  // panels left out), in twips: a maximised form's size.
+  forms::Screen WorkArea() const;
   // Brings the window up to date with the form (title, size, state) and
   // presents a frame when something changed since the last. DoEvents does
   // this itself; a host calls it after drawing outside a wait. Gives
@@ -84,6 +90,9 @@ class Window {
   // read from another thread.
   std::uint64_t Frames() const;
   std::chrono::steady_clock::time_point LastFrameTime() const;
+  // The processor time spent composing frames and copying them to the
+  // window so far, for benchmarks.
+  std::chrono::nanoseconds FrameProcessorTime() const;
 
  private:
   struct Impl;

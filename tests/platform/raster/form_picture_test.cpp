@@ -132,6 +132,66 @@ TEST_F(FormPictureTest, ToolbarCaretAndMessageZoneShowOnlyWhenVisible) {
   EXPECT_EQ(At(*picture, kOx + 104, kOy + 40), kWhite);
 }
 
+// The host's own picture controls show on the surface, in its scale and
+// clipped to it, while Visible: here one placed under a line as ImageSD
+// places it (Left, Top in the surface's twips).
+TEST_F(FormPictureTest, HostPictureControlsShowAsChildrenOfTheSurface) {
+  auto photo = session.NewPictureBox();
+  photo->SetPicture(
+      std::make_shared<forms::Bitmap>(4, 3, std::vector<forms::Rgb>(12, {0, 128, 0})));
+  photo->SetWidth(60);
+  photo->SetHeight(45);
+  photo->SetVisible(false);
+  photo->SetLeft(1500);
+  photo->SetTop(600);
+  EXPECT_EQ(At(*Compose(), kOx + 100, kOy + 40), kWhite);
+  photo->SetVisible(true);
+  auto picture = Compose();
+  EXPECT_EQ(At(*picture, kOx + 100, kOy + 40), 0x00008000);
+  EXPECT_EQ(At(*picture, kOx + 103, kOy + 42), 0x00008000);
+  EXPECT_EQ(At(*picture, kOx + 104, kOy + 40), kWhite);
+  EXPECT_EQ(ChildRect(*photo, *surface), (PixelRect{kOx + 100, kOy + 40, 4, 3}));
+  // Past the surface's right edge it is cut there.
+  photo->SetLeft(599 * 15);
+  picture = Compose();
+  EXPECT_EQ(At(*picture, kOx + 599, kOy + 40), 0x00008000);
+  EXPECT_NE(At(*picture, kOx + 600, kOy + 40), 0x00008000);  // the surface's border
+}
+
+// A picture kept from before and redrawn only inside the rectangles the
+// canvas reports drawn on is the whole picture composed afresh; those
+// rectangles cover what was drawn, and little else.
+TEST_F(FormPictureTest, RedrawingOnlyWhatWasDrawnGivesTheWholePicture) {
+  const PixelSize size = FormPixelSize(*form);
+  std::vector<std::uint32_t> kept(static_cast<std::size_t>(size.width) * size.height);
+  auto* data = reinterpret_cast<unsigned char*>(kept.data());
+  ComposeFormOnto(*form, surface.get(), data, size, size.width * 4);
+  auto& canvas = dynamic_cast<RasterCanvas&>(surface->GetCanvas());
+  canvas.TakeDamage();
+  KySaisie ky;
+  ky.AfficheT(390, 210, u"I", u"Dupont");
+  ky.AfficheT(3900, 4500, u"N", u"Curseur 3");
+  std::vector<PixelRect> damage;
+  for (const PixelRect& r : canvas.TakeDamage()) damage.push_back(CanvasDamageOnForm(*surface, r));
+  ASSERT_EQ(damage.size(), 2u);  // two lines apart stay apart
+  long area = 0;
+  for (const PixelRect& r : damage) area += static_cast<long>(r.w) * r.h;
+  EXPECT_LT(area, 600 * 40);
+  ComposeFormOnto(*form, surface.get(), data, size, size.width * 4, &damage);
+  const auto whole = Compose();
+  int differing = 0;
+  for (int y = 0; y < size.height; ++y) {
+    for (int x = 0; x < size.width; ++x) {
+      differing += ColourOfWord(kept[static_cast<std::size_t>(y) * size.width + x] & 0xFFFFFF) !=
+                   At(*whole, x, y);
+    }
+  }
+  EXPECT_EQ(differing, 0);
+  EXPECT_TRUE(canvas.TakeDamage().empty());
+  canvas.Clear(kWhite);
+  EXPECT_EQ(canvas.TakeDamage(), (std::vector<PixelRect>{{0, 0, 600, 400}}));
+}
+
 TEST_F(FormPictureTest, PngFileShowsWhatTheComposedPictureShows) {
   toolbar.SetVisible(true);
   KySaisie{}.AfficheT(195, 105, u"Rouge", u"Erreur de saisie");

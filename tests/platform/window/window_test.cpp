@@ -3,6 +3,8 @@
 #include "window/window.hpp"
 
 #include <SDL.h>
+#include <X11/Xatom.h>
+#include <X11/keysym.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -18,7 +20,19 @@
 namespace ferlan::testing {
 namespace {
 
-using WindowTest = XvfbTest;
+class WindowTest : public XvfbTest {
+ protected:
+  // Types `keys` (xdotool commands, in order) into the window from another
+  // thread.
+  static std::thread Typist(unsigned long id, std::vector<std::string> keys) {
+    return std::thread([id, keys = std::move(keys)] {
+      const std::string w = std::to_string(id);
+      Xdotool("mousemove --window " + w + " 30 30");
+      Xdotool("windowfocus --sync " + w);
+      for (const std::string& k : keys) Xdotool(k);
+    });
+  }
+};
 
 // Lets the window map and show its first frames.
 void Settle(window::Window& window, int ms = 300) {
@@ -48,6 +62,22 @@ int Ink(std::uint32_t pixel, std::uint32_t ground) {
   return d;
 }
 
+// The pixels of the window's screenshot that differ from the form's picture
+// as the PNG composes it; -1 when the sizes differ.
+int DifferingPixels(const std::vector<std::uint32_t>& shot, int width, int height,
+                    const forms::Bitmap& composed) {
+  if (width != composed.PixelWidth() || height != composed.PixelHeight()) return -1;
+  int differing = 0;
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) {
+      const forms::Rgb p = composed.Pixel(x, y);
+      const std::uint32_t want = (p.r << 16) | (p.g << 8) | p.b;
+      differing += shot[static_cast<std::size_t>(y) * width + x] != want;
+    }
+  }
+  return differing;
+}
+
 TEST_F(WindowTest, APersonTypesAFieldAndTheWindowShowsIt) {
   window::Window window("Ferlan test");
   auto session = window.OpenSession();
@@ -59,19 +89,30 @@ TEST_F(WindowTest, APersonTypesAFieldAndTheWindowShowsIt) {
   const unsigned long id = window.NativeHandle();
   ASSERT_NE(id, 0u);
 
+  // A key of its own for é, as a French keyboard has: xdotool would
+  // otherwise map one for the keystroke and take it back at once, racing
+  // the window's reading of the key.
+  int low = 0, high = 0;
+  XDisplayKeycodes(display_, &low, &high);
+  int per_key = 0;
+  KeySym* map = XGetKeyboardMapping(display_, static_cast<KeyCode>(low), high - low + 1, &per_key);
+  for (int code = high; code >= low && map != nullptr; --code) {
+    if (map[(code - low) * per_key] == NoSymbol) {
+      KeySym e_acute = XK_eacute;
+      XChangeKeyboardMapping(display_, code, 1, &e_acute, 1);
+      break;
+    }
+  }
+  XFree(map);
+  XSync(display_, False);
+  Settle(window, 100);
+
   // Typed as a person does, in the real window: an accented letter, a
   // Ctrl+arrow back to the start of a word, and F2 to leave.
   std::thread typist;
   TimerRef start = Once(*session, 50, [&] {
-    typist = std::thread([id] {
-      const std::string w = std::to_string(id);
-      Xdotool("mousemove --window " + w + " 30 30");
-      Xdotool("windowfocus --sync " + w);
-      Xdotool("type --delay 30 'Zoé Durand'");
-      Xdotool("key --delay 30 ctrl+Left");
-      Xdotool("type --delay 30 'M '");
-      Xdotool("key F2");
-    });
+    typist = Typist(id, {"type --delay 30 'Zoé Durand'", "key --delay 30 ctrl+Left",
+                         "type --delay 30 'M '", "key F2"});
   });
   TimerRef guard = Once(*session, 20000, [&] { session->Env().Abandon = true; });
   String m;
@@ -89,29 +130,21 @@ TEST_F(WindowTest, APersonTypesAFieldAndTheWindowShowsIt) {
   const std::vector<std::uint32_t> shot = Screenshot(id, width, height);
   PictureBox& surface = *session->Env().surface;
   const auto composed = raster::ComposeForm(session->Form(), &surface);
-  ASSERT_EQ(width, composed->PixelWidth());
-  ASSERT_EQ(height, composed->PixelHeight());
 
   // The window shows, pixel for pixel, the picture the PNG of this session
   // holds.
-  int differing = 0;
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < width; ++x) {
-      const forms::Rgb p = composed->Pixel(x, y);
-      const std::uint32_t want = (p.r << 16) | (p.g << 8) | p.b;
-      differing += shot[static_cast<std::size_t>(y) * width + x] != want;
-    }
-  }
-  EXPECT_EQ(differing, 0);
+  EXPECT_EQ(DifferingPixels(shot, width, height, *composed), 0);
 
   // The text stands where the field is: ink from the field's left edge to
   // about the width of what was typed, on the field's line.
   const int border = raster::PixelOfTwips((surface.Width() - surface.ScaleWidth()) / 2);
   const int left = raster::PixelOfTwips(surface.Left()) + border + raster::PixelOfTwips(ct);
-  const int top = raster::PixelOfTwips(surface.Top()) + border + raster::PixelOfTwips(k.WinLigne(3));
+  const int top =
+      raster::PixelOfTwips(surface.Top()) + border + raster::PixelOfTwips(k.WinLigne(3));
   const int text_height = raster::PixelsOfSize(k.HauteurTexte());
   const int text_width = raster::PixelsOfSize(surface.TextWidth(m));
-  const std::uint32_t ground = shot[static_cast<std::size_t>(top + text_height / 2) * width + left + text_width + 20];
+  const std::uint32_t ground =
+      shot[static_cast<std::size_t>(top + text_height / 2) * width + left + text_width + 20];
   int ink_left = width, ink_right = -1, ink = 0;
   for (int y = top; y < top + text_height; ++y) {
     for (int x = left - 10; x < left + text_width + 20; ++x) {
@@ -125,6 +158,59 @@ TEST_F(WindowTest, APersonTypesAFieldAndTheWindowShowsIt) {
   EXPECT_GT(ink, 40);
   EXPECT_NEAR(ink_left, left, 3);
   EXPECT_NEAR(ink_right, left + text_width, 4);
+}
+
+// A field on the host's own picture control, a substitute surface placed on
+// the surface: typed in the real window, it shows there, pixel for pixel as
+// the PNG composes it.
+TEST_F(WindowTest, AFieldOnASubstituteSurfaceShowsInTheWindow) {
+  window::Window window("Ferlan test");
+  auto session = window.OpenSession();
+  KySaisie k;
+  k.InitKyF();
+  k.DimensionFeuille(12, 60);
+  auto subst = session->NewPictureBox();
+  subst->SetLeft(1500);
+  subst->SetTop(2400);
+  subst->SetWidth(4500);
+  subst->SetHeight(600);
+  constexpr Long kPale = 0x00C0FFFF;  // a pale yellow, 0x00BBGGRR
+  subst->SetBackColor(kPale);
+  subst->GetCanvas().Clear(kPale);
+  Settle(window);
+  const unsigned long id = window.NativeHandle();
+  std::thread typist;
+  TimerRef start = Once(*session, 50, [&] {
+    typist = Typist(id, {"type --delay 30 'Abc'", "key F2"});
+  });
+  TimerRef guard = Once(*session, 20000, [&] { session->Env().Abandon = true; });
+  String m;
+  Integer tr = 0;
+  k.ModDT(m, u"A", 60, 1, 60, 20, tr, 0, 0, u"F", nullptr, u"[]", u"B", subst);
+  typist.join();
+  ASSERT_FALSE(session->Env().Abandon) << "the keys did not reach the field within 20 s";
+  EXPECT_EQ(m, u"Abc");
+
+  Settle(window);
+  int width = 0, height = 0;
+  const std::vector<std::uint32_t> shot = Screenshot(id, width, height);
+  PictureBox& surface = *session->Env().surface;
+  EXPECT_EQ(DifferingPixels(shot, width, height, *raster::ComposeForm(session->Form(), &surface)),
+            0);
+  // The control shows at its place on the surface, the text inked on it.
+  const raster::PixelRect at = raster::ChildRect(*subst, surface);
+  ASSERT_EQ(at.w, 300);
+  const std::uint32_t pale = raster::WordOfColour(kPale);
+  int ground = 0, ink = 0;
+  for (int y = at.y; y < at.y + at.h; ++y) {
+    for (int x = at.x; x < at.x + at.w; ++x) {
+      const std::uint32_t p = shot[static_cast<std::size_t>(y) * width + x];
+      ground += p == pale;
+      ink += Ink(p, pale) > 200;
+    }
+  }
+  EXPECT_GT(ground, at.w * at.h / 2);
+  EXPECT_GT(ink, 20);
 }
 
 TEST_F(WindowTest, ClosingTheWindowAbandonsTheWaitAndTheSession) {
@@ -148,6 +234,12 @@ TEST_F(WindowTest, ClosingTheWindowAbandonsTheWaitAndTheSession) {
 }
 
 TEST_F(WindowTest, TheFormAndTheWindowFollowEachOther) {
+  // A panel of 24 pixels at the display's foot, as a desktop would keep.
+  const long work_area[4] = {0, 0, 1280, 1000};
+  XChangeProperty(display_, DefaultRootWindow(display_),
+                  XInternAtom(display_, "_NET_WORKAREA", False), XA_CARDINAL, 32, PropModeReplace,
+                  reinterpret_cast<const unsigned char*>(work_area), 4);
+  XSync(display_, False);
   window::Window window("Ferlan test");
   auto session = window.OpenSession();
   forms::Form& form = session->Form();
@@ -173,7 +265,17 @@ TEST_F(WindowTest, TheFormAndTheWindowFollowEachOther) {
   EXPECT_EQ(attributes.width, (9000 - 120) / 15);
   EXPECT_EQ(attributes.height, (6450 - 450) / 15);
 
-  // The window manager's doings reach the form.
+  // Left and Top place the window.
+  form.SetLeft(1500);
+  form.SetTop(3000);
+  Settle(window);
+  int x = 0, y = 0;
+  Window child = 0;
+  XTranslateCoordinates(display_, id, DefaultRootWindow(display_), 0, 0, &x, &y, &child);
+  EXPECT_EQ(std::pair(x, y), std::pair(100, 200));
+
+  // The window manager's doings reach the form; maximised, it has the work
+  // area.
   const int before = resized;
   SDL_Event event{};
   event.type = SDL_WINDOWEVENT;
@@ -181,6 +283,7 @@ TEST_F(WindowTest, TheFormAndTheWindowFollowEachOther) {
   SDL_PushEvent(&event);
   window.Loop().DoEvents();
   EXPECT_EQ(form.WindowState(), 2);
+  EXPECT_EQ(std::pair(form.Width(), form.Height()), std::pair(1280.0F * 15, 1000.0F * 15));
   event.window.event = SDL_WINDOWEVENT_RESTORED;
   SDL_PushEvent(&event);
   window.Loop().DoEvents();
@@ -214,7 +317,8 @@ TEST_F(WindowTest, RunPlaysASessionInAWindow) {
 {"keys":"Caf\u00e9{Enter}"}
 {"call":"ModD","args":["","A",3,12,1260,20,0]}
 {"get":["Form.Caption"]}
-)", f);
+)",
+               f);
     std::fclose(f);
   }
   const std::string out = ::testing::TempDir() + "ferlan_run_test.out";
@@ -246,9 +350,10 @@ TEST_F(WindowTest, RunPlaysASessionInAWindow) {
 
   // Without a display: one line, and status 2.
   const std::string err = ::testing::TempDir() + "ferlan_run_test.err";
-  const int no_display = std::system(
-      ("env -u DISPLAY -u WAYLAND_DISPLAY " + std::string(FERLAN_CLI) + " run " + file + " > " +
-       out + " 2> " + err).c_str());
+  const int no_display =
+      std::system(("env -u DISPLAY -u WAYLAND_DISPLAY " + std::string(FERLAN_CLI) + " run " + file +
+                   " > " + out + " 2> " + err)
+                      .c_str());
   EXPECT_EQ(WEXITSTATUS(no_display), 2);
   f = std::fopen(err.c_str(), "r");
   ASSERT_NE(f, nullptr);
