@@ -1,18 +1,20 @@
-// The message zone under the surface. The session's zone is a hidden picture
-// control of the form; its height is set so that 1.1 times it is exact.
+// The message zone under the surface, the caption and the column rules. The
+// session's zone is a hidden picture control of the form; its height is set
+// so that 1.1 times it is exact.
 #include <memory>
 
 #include "ferlan/kysaisie.hpp"
 #include "forms/bitmap.hpp"
+#include "support/automate_fixture.hpp"
 #include "support/session_test.hpp"
-#include "window/automate_fixture.hpp"
 
 namespace ferlan::testing {
 namespace {
 
 using tool::Json;
+using CaptionTest = tool::AutomateFixture;
 
-class MessageZoneTest : public AutomateWindowTest {
+class MessageZoneTest : public tool::AutomateFixture {
  protected:
   void SetUp() override { Set({{"zoneMessage.Height", 500}, {"zoneMessage.Width", 6000}}); }
   Json Place() {
@@ -69,10 +71,8 @@ TEST_F(MessageZoneTest, EffaceZoneMessageOnlyHidesTheZone) {
   hidden[2] = false;
   EXPECT_EQ(Place(), hidden);
   // A picture control passed for the picture gives its own Picture.
-  Ask(R"({"new":{"name":"box","kind":"PictureBox"}})");
-  const Json answer = Json::parse(automate.Handle(
-      R"({"call":"AfficheZoneMessage","args":[{"obj":"box"}]})"));
-  EXPECT_EQ(answer["ok"], true);
+  Ok(R"({"new":{"name":"box","kind":"PictureBox"}})");
+  Ok(R"({"call":"AfficheZoneMessage","args":[{"obj":"box"}]})");
   EXPECT_EQ(Get("zoneMessage.Visible"), true);
 }
 
@@ -87,6 +87,49 @@ TEST_F(MessageZonePictureTest, TheZoneShowsThePictureItselfAndKeepsItWhenHidden)
   ky.EffaceZoneMessage();
   EXPECT_FALSE(zone->Visible());
   EXPECT_EQ(zone->Picture(), picture);
+}
+
+// The form's caption and the vertical rules: a column is 105 wide and a line
+// 312 high.
+TEST_F(CaptionTest, TitreComposesTheCaptionWithOnlyTheCompanyTrimmed) {
+  Set({{"Env.DateTitre", " 31/12/2026 "},
+       {"Env.EnteteTexte", "Paie "},
+       {"Env.CodeEnt", " 042 "},
+       {"Env.NomEnt", "  Dupont & Fils   "}});
+  Call("Titre", {"Bulletins "});
+  EXPECT_EQ(Get("KyF.Caption"),
+            "Bulletins  au  31/12/2026  - Paie  -  Code Ent  042  :   Dupont & Fils");
+
+  // Empty pieces still leave every separator; a blank company name ends in
+  // " : ".
+  Set({{"Env.DateTitre", ""}, {"Env.EnteteTexte", ""}, {"Env.CodeEnt", ""}, {"Env.NomEnt", "   "}});
+  Call("Titre", {""});
+  EXPECT_EQ(Get("KyF.Caption"), " au  -  -  Code Ent  : ");
+}
+
+TEST_F(CaptionTest, TraceColonneDrawsSimpleAndDoubleRulesInBlackAndReportsOtherModes) {
+  Set({{"Env.Noir", 0x123456}, {"Env.MargeX", 30}});
+  Call("TraceColonne", {2, 10, 5, "S"});
+  EXPECT_EQ(Log(), Json::parse(R"([["LigneV",1050,624,1560,1193046]])"));
+  // Double: the second rule MargeX to the right. The ends keep their order.
+  Call("TraceColonne", {7, 3, 1, "D"});
+  EXPECT_EQ(Log(), Json::parse(R"([["LigneV",315,2184,312,1193046],
+                                   ["LigneV",345,2184,312,1193046]])"));
+  // With MargeX 0 the two fall on each other; equal lines give equal ends.
+  Set({{"Env.MargeX", 0}});
+  Call("TraceColonne", {4, 1, 4, "D"});
+  EXPECT_EQ(Log(), Json::parse(R"([["LigneV",105,1248,1248,1193046],
+                                   ["LigneV",105,1248,1248,1193046]])"));
+  EXPECT_EQ(Get("Env.CourantX"), 0);
+  // Any other mode is reported and draws nothing.
+  for (const char* mode : {"s", "d", "", "DD", "S "}) {
+    const Json answer = Call("TraceColonne", {1, 1, 3, mode});
+    const Json expected = {{{"source", "TraceColonne"},
+                            {"text", std::string("Code de Tracé de Colonne <@") + mode +
+                                         "@> Inconnu "}}};
+    EXPECT_EQ(answer["reports"], expected) << mode;
+  }
+  EXPECT_EQ(Log(), Json::array());
 }
 
 }  // namespace

@@ -1,14 +1,14 @@
 // Waiting for the operator, over `ferlan automate`. On 25 lines of the
 // fixed-metric surface the prompt and its one-character field share line 23
 // (Y 7176).
-#include "window/automate_fixture.hpp"
+#include "support/automate_fixture.hpp"
 
 namespace ferlan::testing {
 namespace {
 
 using tool::Json;
 
-class WaitingTest : public AutomateWindowTest {
+class WaitingTest : public tool::AutomateFixture {
  protected:
   // Surface and form sizes, and the caption.
   Json Screen() {
@@ -30,7 +30,7 @@ TEST_F(WaitingTest, AttentePutsPromptAndFieldOnLine23AndGivesTheScreenBack) {
   Set({{"KyF.Caption", "Facture"}});
   const Json before = Screen();
   Log();
-  Ask(R"({"keys":"x{Enter}"})");
+  Ok(R"({"keys":"x{Enter}"})");
   const Json answer = Call("Attente");
   EXPECT_FALSE(answer.contains("starved"));
   const Json ops = Log();
@@ -59,7 +59,7 @@ TEST_F(WaitingTest, AttenteGrowsTheSurfaceForItsPromptAndRestoresIt) {
   Call("DimensionFeuille", {10, 20});
   const Json before = Screen();
   Log();
-  Ask(R"({"keys":"{F5}"})");
+  Ok(R"({"keys":"{F5}"})");
   const Json answer = Call("Attente");
   EXPECT_FALSE(answer.contains("starved"));
   const Json ops = Log();
@@ -73,13 +73,13 @@ TEST_F(WaitingTest, OnlyALeavingKeyOrAnAbandonEndsTheWait) {
   Call("DimensionFeuille", {25});
   const Json before = Screen();
   for (const char* keys : {"{Up}", "{PgDn}", "{F12}", "ab{Enter}"}) {
-    Ask(Json{{"keys", keys}}.dump());
+    Ok(Json{{"keys", keys}}.dump());
     EXPECT_FALSE(Call("Attente").contains("starved")) << keys;
     EXPECT_EQ(Screen(), before) << keys;
   }
   // A character alone leaves the wait running until the host abandons; the
   // screen comes back all the same.
-  Ask(R"({"keys":"x"})");
+  Ok(R"({"keys":"x"})");
   EXPECT_EQ(Call("Attente").value("starved", false), true);
   EXPECT_EQ(Screen(), before);
 }
