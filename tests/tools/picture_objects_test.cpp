@@ -9,7 +9,7 @@
 
 #include <unistd.h>
 
-#include "ferlan/automate_session.hpp"
+#include "support/automate_fixture.hpp"
 
 namespace ferlan::tool {
 namespace {
@@ -36,10 +36,8 @@ void WriteBmp(const std::filesystem::path& path, int w, int h) {
   std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(b.data()), size);
 }
 
-class PictureObjectTest : public ::testing::Test {
+class PictureObjectTest : public AutomateFixture {
  protected:
-  Json Ask(const std::string& line) { return Json::parse(session.Handle(line)); }
-  AutomateSession session{SurfaceKind::Fixed};
   std::filesystem::path dir = std::filesystem::temp_directory_path() /
                               ("ferlan_pictures_" + std::to_string(::getpid()));
   void SetUp() override { std::filesystem::create_directories(dir); }
