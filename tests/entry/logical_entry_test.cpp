@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "screens/field_fixture.hpp"
+#include "screens/screens_fixture.hpp"
 
 namespace ferlan::testing {
 namespace {

@@ -21,12 +21,9 @@ using Cases = std::vector<std::tuple<String, std::string, EntryResult>>;  // typ
 TEST_F(TypedEntryTest, NumbersBeyondTheirTypeComeBackThroughTheCalculator) {
   for (const auto& [typ, keys, want] :
        Cases{{u"I0", "32767{Enter}", {StoredInteger(32767), 13, 0}},
-             {u"I0", "-32767{Enter}", {StoredInteger(-32767), 13, 0}},
              {u"I0", "32768{Enter}{Up}123{Enter}", {StoredInteger(123), 13, 0}},
              {u"I0", "-32768{Enter}{Up}-5{Enter}", {StoredInteger(-5), 13, 0}},
              {u"I0", "7*6{PgDn}{PgDn}", {StoredInteger(42), 34, 0}},
-             {u"I0", "12{Down}", {StoredInteger(12), 40, 0}},
-             {u"S2", "99999.99{Enter}", {StoredSingle(99999.99F), 13, 0}},
              {u"S2", "100000{Enter}{PgDn}7{Enter}", {StoredSingle(7), 13, 0}},
              {u"D2", "9999999999999.99{Enter}", {StoredDouble(9999999999999.99), 13, 0}},
              {u"D2", "10000000000000{Enter}{Up}1{Enter}", {StoredDouble(1), 13, 0}}})
@@ -83,10 +80,8 @@ TEST_F(TypedEntryTest, AbandonGivesTheStoredValueBackWithTrZero) {
              {u"I0", "1+1{Enter}{abandon}", {StoredInteger(5)}},  // a calculator result standing
              {u"D2", "100F{Enter}{abandon}", {StoredDouble(3)}},
              {u"I0", "123{abandon}", {StoredInteger(5)}},  // acceptable, not confirmed
-             {u"I0", "{abandon}", {StoredInteger(5)}},     // nothing typed
              {u"N2", "7{abandon}", {u"12.5   "}},          // kept as stored
              {u"D", "{Esc}99{Enter}{abandon}", {u"01/02/2003"}},
-             {u"B", "x{Enter}{abandon}", {u"o"}},
              {u"I0", "", {StoredInteger(9)}},  // starved
              {u"I0", "abc{Enter}", {StoredInteger(9)}}}) {
     session.BeginCall();
