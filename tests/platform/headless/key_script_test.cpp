@@ -23,12 +23,11 @@ TEST(KeyScriptTest, TranslatesLikeAUsKeyboard) {
   const std::pair<const char*, const char*> cases[] = {
       {"a", "KeyDown(65,0) KeyPress(97)"},
       {"A{Shift+a}", "KeyDown(65,1) KeyPress(65) | KeyDown(65,1) KeyPress(65)"},
-      {"!}", "KeyDown(49,1) KeyPress(33) | KeyDown(221,1) KeyPress(125)"},
-      {"{{", "KeyDown(219,1) KeyPress(123)"},
+      {"!}{{", "KeyDown(49,1) KeyPress(33) | KeyDown(221,1) KeyPress(125) | KeyDown(219,1) "
+               "KeyPress(123)"},
       {"{Left}{pgdn}{F12}{Ctrl+Tab}",
        "KeyDown(37,0) | KeyDown(34,0) | KeyDown(123,0) | KeyDown(9,2)"},
       {"{Enter}{Shift+Tab}", "KeyDown(13,0) KeyPress(13) | KeyDown(9,1) KeyPress(9)"},
-      {"{Ctrl+B}{ctrl+b}", "KeyDown(66,2) KeyPress(2) | KeyDown(66,2) KeyPress(2)"},
       {"{Ctrl+Shift+C}{Ctrl+[}", "KeyDown(67,3) KeyPress(3) | KeyDown(219,2) KeyPress(27)"},
       {"{Ctrl+Enter}{Ctrl+Backspace}", "KeyDown(13,2) KeyPress(10) | KeyDown(8,2) KeyPress(127)"},
       {"{Ctrl+1}{Ctrl+!}{Ctrl++}", "KeyDown(49,2) | KeyDown(49,3) | KeyDown(187,3)"},
@@ -50,7 +49,6 @@ TEST(KeyScriptTest, RefusesBadScriptsNamingThePlaceAndQueuesNothing) {
       {"{Ctrl+Ctrl+A}", "at 2: \"Ctrl+\" twice"},
       {"{Ctrl+é}", "at 2: no key gives U+00E9 on a US keyboard, so it takes no Shift, Ctrl or Alt"},
       {"{down:65}", "at 2: write {down:KeyCode:Shift}"},
-      {"{down:x:0}", "at 2: KeyCode \"x\" is not a whole number"},
       {"{press:40000}", "at 2: KeyAscii 40000 is out of range"},
       {"{wait:-1}", "at 2: a wait of negative time"},
       {"{wait:}", "at 2: wait \"\" is not a whole number"},

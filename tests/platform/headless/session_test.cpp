@@ -4,6 +4,7 @@
 
 #include "ferlan/assert.hpp"
 #include "forms/control.hpp"
+#include "headless/fixed_canvas.hpp"
 #include "support/session_test.hpp"
 
 namespace ferlan::testing {
@@ -47,6 +48,34 @@ TEST_F(HeadlessSessionTest, GlobalRunsTheSessionsLoopAndScreen) {
   session.Global().DoEvents();
   session.Global().DoEvents();
   EXPECT_EQ(ticks, 1);
+}
+
+// A long session must stay flat: what the host keeps (display list, drawing
+// log, reports) is measured by counts after many rounds of typing.
+TEST_F(HeadlessSessionTest, WhatTheHostKeepsStopsGrowing) {
+  KySaisie{}.InitKyF();
+  KySaisie{}.DimensionFeuille(25);
+  for (int i = 0; i < 600; ++i) {  // a field typed into and left, then a reported error
+    Type("abcdefghij{Enter}");
+    String text = u"Martin";
+    Integer ending = 0;
+    KySaisie{}.Modif(936, 12, 1260, 20, 2310, 1155, u"C", text, ending, u"F");
+    KySaisie{}.Couleur(u"unknown colour");
+  }
+  auto& canvas = dynamic_cast<headless::FixedCanvas&>(Zone().GetCanvas());
+  const std::size_t limit = headless::FixedCanvas::kOpsLimit;
+  EXPECT_LE(canvas.Ops().size(), limit + limit / 4);
+  EXPECT_GT(canvas.Dropped(), 0u);
+  // The unread drawing log keeps its latest calls and counts the others.
+  EXPECT_GT(session.Recorder().Dropped(), 0u);
+  EXPECT_EQ(session.Recorder().TakeLog().size(), headless::RecordingDessin::kLogLimit);
+  EXPECT_EQ(session.Recorder().Dropped(), 0u);
+  // Reports nobody read keep the first ones and count the rest.
+  for (std::size_t i = session.Records().reports.size(); i < kit::Records::kLimit + 5; ++i) {
+    KySaisie{}.Couleur(u"unknown colour");
+  }
+  EXPECT_EQ(session.Records().reports.size(), kit::Records::kLimit);
+  EXPECT_EQ(session.Records().dropped, 5u);
 }
 
 TEST(SessionLifetimeTest, ANewSessionFollowsTheLastAndMayBeReenteredOnResize) {

@@ -123,13 +123,6 @@ TEST_F(FormPictureTest, ToolbarCaretAndMessageZoneShowOnlyWhenVisible) {
   // The caret's picture is stretched to the control's width, as wide as a letter.
   caret->SetWidth(135);
   EXPECT_EQ(black(*Compose()), 9 * 5);
-  // The insert picture keeps its drawing: its tip in the middle of the top row.
-  caret->SetPicture(DecodePicture(CaretInsertionImage()));
-  caret->SetWidth(165);
-  picture = Compose();
-  EXPECT_EQ(At(*picture, kOx + 105, kOy + 40), 0);
-  EXPECT_EQ(At(*picture, kOx + 105, kOy + 41), env.Jaune);
-  EXPECT_EQ(At(*picture, kOx + 104, kOy + 40), kWhite);
 }
 
 TEST_F(FormPictureTest, PngFileShowsWhatTheComposedPictureShows) {
