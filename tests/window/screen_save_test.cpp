@@ -158,13 +158,6 @@ TEST_F(ScreenSaveTest, ResEcrSaisBringsBackTheRecordsAndCentresTheSurface) {
   EXPECT_EQ(Reports(), std::vector<std::string>{"ResEcrSais"});
   EXPECT_EQ(Zone().Left(), 7);
   EXPECT_EQ(Identifiers(), "A B ");
-
-  // An empty table comes back empty.
-  State().NbRub = 0;
-  ky.MemEcrSais();
-  Define(u"[[Q,q,A,5]]");
-  ky.ResEcrSais();
-  EXPECT_EQ(Identifiers(), "");
 }
 
 TEST_F(ScreenSaveTest, TheSixthSaveReportsSaturationAndKeepsTheFifth) {
