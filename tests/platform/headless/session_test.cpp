@@ -29,27 +29,6 @@ TEST_F(HeadlessSessionTest, AssemblesTheDefaultHost) {
   EXPECT_FLOAT_EQ(session.NewPictureBox()->TextWidth(u"T"), 105);
 }
 
-TEST_F(HeadlessSessionTest, RecordsDessinCallsAndPassesThemOn) {
-  session.Recorder().EffaceRect(Zone(), 105, 312, 1105, 506, -1);
-  session.Recorder().Texte(Zone(), 0, 0, u"Nom", 0);
-  session.Recorder().Hauteur(Zone(), 3000, true);
-  EXPECT_EQ(TakeLog(), "EffaceRect 105 312 1105 506 -1\nTexte 0 0 \"Nom\" 0\nHauteur 3000 True\n");
-  // What the kit drew reached the surface's canvas.
-  auto& canvas = dynamic_cast<headless::FixedCanvas&>(Zone().GetCanvas());
-  EXPECT_NE(canvas.DescribeOps().find("\"Nom\""), std::string::npos) << canvas.DescribeOps();
-}
-
-TEST_F(HeadlessSessionTest, GlobalRunsTheSessionsLoopAndScreen) {
-  EXPECT_FLOAT_EQ(session.Global().Screen().Width(), 28800);
-  int ticks = 0;
-  TimerRef t = session.Global().CreateTimer([&] { ++ticks; });
-  t->SetEnabled(true);
-  t->SetInterval(2);
-  session.Global().DoEvents();
-  session.Global().DoEvents();
-  EXPECT_EQ(ticks, 1);
-}
-
 // A long session must stay flat: what the host keeps (display list, drawing
 // log, reports) is measured by counts after many rounds of typing.
 TEST_F(HeadlessSessionTest, WhatTheHostKeepsStopsGrowing) {
