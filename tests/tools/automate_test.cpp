@@ -1,10 +1,16 @@
 // `ferlan automate`: the answer to each kind of request, what it refuses
-// (with no change made), and how a run reads lines and ends.
+// (with no change made), how a run reads lines and ends, pictures made from
+// files, and positions far off the surface on every surface.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <filesystem>
+#include <fstream>
 #include <sstream>
 #include <streambuf>
+#include <string>
 
+#include "ferlan/automate_session.hpp"
 #include "ferlan/request_reader.hpp"
 #include "support/automate_fixture.hpp"
 
@@ -157,6 +163,77 @@ TEST_F(AutomateTest, RunAnswersEveryLineInOrderAndEndsWhenAnAnswerIsLost) {
   std::istringstream in("{\"call\":\"NbCol\"}\n{\"set\":{\"Env.ToucheEntree\":10}}\n");
   EXPECT_FALSE(session.Run(in, out));
   EXPECT_EQ(Get("Env.ToucheEntree"), 13) << "no request is evaluated after a lost answer";
+}
+
+class PictureObjectTest : public AutomateFixture {
+ protected:
+  std::filesystem::path dir = std::filesystem::temp_directory_path() /
+                              ("ferlan_pictures_" + std::to_string(::getpid()));
+  void SetUp() override { std::filesystem::create_directories(dir); }
+  void TearDown() override { std::filesystem::remove_all(dir); }
+};
+
+// The picture control takes the image's size, hidden, and is passed by name;
+// ImageAD here paints it right of record 0 of an empty screen, after the report.
+TEST_F(PictureObjectTest, AFileBecomesAPictureControlForImageAD) {
+  const std::string file = FERLAN_SOURCE_DIR "/examples/logo.bmp";  // 48 x 24 pixels
+  EXPECT_EQ(Ask(R"({"new":{"name":"logo","kind":"Picture","file":")" + file + "\"}}"),
+            Json::parse(R"({"ok":true})"));
+  EXPECT_EQ(Ask(R"({"get":["logo.Width","logo.Height","logo.Visible"]})")["values"],
+            Json::parse(R"({"logo.Width":720,"logo.Height":360,"logo.Visible":false})"));
+  const Json answer = Ok(R"({"call":"ImageAD","args":["LOGO",{"obj":"logo"}]})");
+  EXPECT_EQ(answer["reports"][0]["source"], "RechRub");
+}
+
+TEST_F(PictureObjectTest, MissingOrBadFilesGiveClearErrors) {
+  std::ofstream(dir / "text.bmp") << "not a picture";
+  for (const std::string& file : {(dir / "none.bmp").string(), (dir / "text.bmp").string()}) {
+    const Json answer = Ask(R"({"new":{"name":"p","kind":"Picture","file":")" + file + "\"}}");
+    EXPECT_EQ(answer["ok"], false);
+    EXPECT_EQ(answer["error"]["number"], 5);
+    EXPECT_NE(answer["error"]["description"].get<std::string>().find(file), std::string::npos)
+        << answer.dump();
+  }
+  EXPECT_EQ(Ask(R"({"new":{"name":"p","kind":"Picture"}})")["error"]["number"], 5);
+  EXPECT_EQ(Ask(R"({"call":"ImageSD","args":["X",null]})")["error"]["number"], 91);
+}
+
+TEST(FarDrawingTest, TextBoxesAndFieldsFarOffAreAnsweredOnEverySurface) {
+  for (const char* surface : {"fixed", "raster"}) {
+    const auto kind = SurfaceByName(surface);
+    if (!kind) continue;  // the raster back-end was not built
+    AutomateSession session{*kind};
+    const auto ask = [&](const std::string& line) {
+      const Json answer = Json::parse(session.Handle(line));
+      EXPECT_TRUE(answer.contains("ok")) << surface << " " << line;
+      return answer;
+    };
+    for (const char* v : {"1e30", "-3e38", "3.4e38", "-3.4e38"}) {
+      const std::string far(v);
+      ask(R"({"call":"AfficheT","args":[1,)" + far + R"(,"I","x"]})");
+      ask(R"({"call":"AfficheColT","args":[1,)" + far + R"(,"I","x"]})");
+      ask(R"({"call":"EffaceZoneSaisie","args":[)" + far + "," + far + "," + far + ",255]}");
+      ask(R"({"call":"EffaceZoneSaisie","args":[100,)" + far + ",2e9,255]}");
+      ask(R"({"keys":"ab{Enter}"})");
+      ask(R"({"call":"Modif","args":[100,1,)" + far + R"(,5,)" + far + "," + far +
+          R"(,"","",0,"P"]})");
+      ask(R"({"set":{"Env.CourantX":)" + far + R"(,"Env.CourantY":)" + far + "}}");
+      ask(R"({"call":"Aff","args":["I","xyz"]})");
+      ask(R"({"reset":true})");
+    }
+    EXPECT_EQ(ask(R"({"call":"WinLigne","args":[1]})")["ok"], true) << surface;
+  }
+}
+
+TEST(FarDrawingTest, AFormTooLargeForAPictureIsAnErrorAndTheSessionGoesOn) {
+  const auto kind = SurfaceByName("raster");
+  if (!kind) GTEST_SKIP() << "the raster back-end was not built";
+  AutomateSession session{*kind};
+  session.Handle(R"({"set":{"Form.Width":1e9,"Form.Height":1e9}})");
+  const Json answer = Json::parse(session.Handle(R"({"png":"never-written.png"})"));
+  EXPECT_EQ(answer["ok"], false);
+  EXPECT_EQ(answer["error"]["number"], 51);
+  EXPECT_EQ(Json::parse(session.Handle(R"({"call":"WinLigne","args":[1]})"))["ok"], true);
 }
 
 }  // namespace
