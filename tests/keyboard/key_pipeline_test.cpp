@@ -139,7 +139,7 @@ TEST_F(KeyPipelineTest, MaximalWaitsCostAFewPollsAndVirtualKeysStillComeFirst) {
   EXPECT_EQ(session.Clock().Now() - start, 1001);
 }
 
-TEST_F(KeyPipelineTest, VideClavierRunsNoDoEventsWhenNothingIsPending) {
+TEST_F(KeyPipelineTest, VideClavierRunsNoDoEventsWhenNothingIsPendingAndInterceptionIsByName) {
   KySaisie k;
   const std::int64_t before = session.Clock().Now();
   k.VideClavier();
@@ -148,52 +148,40 @@ TEST_F(KeyPipelineTest, VideClavierRunsNoDoEventsWhenNothingIsPending) {
   k.VideClavier();
   EXPECT_EQ(session.Clock().Now(), before + 1);
   EXPECT_EQ(State().ToucheEnAttente, 0);
-}
-
-TEST_F(KeyPipelineTest, InterceptionIsWrittenOnTheFormsObjectByName) {
+  // Interception is written on the form's object by name.
   KySaisie{}.IntercepteClavierKY(true);
   EXPECT_EQ(std::get<Boolean>(Form().Member("ClavierKY")->GetProperty("Interception")), true);
   Env().form = nullptr;
   testing::ExpectPlatformError([] { KySaisie{}.IntercepteClavierKY(false); }, 91);
 }
 
-// Drains the buffer through the real wait, one key a Saisie.
-std::vector<std::pair<Integer, String>> ReadAll() {
-  std::vector<std::pair<Integer, String>> keys;
+// Drains the virtual keyboard's buffer through the real wait, one key a Saisie.
+using Keys = std::vector<std::pair<Integer, String>>;
+Keys ReadAll() {
+  Keys keys;
   while (State().ClavierTampon != u"[]") {
-    String r;
-    Integer code = 0;
-    KySaisie{}.Saisie(r, &code);
-    keys.emplace_back(code, code == 0 ? r : String());
+    const Received got = WaitForKey();
+    keys.emplace_back(got.code, got.code == 0 ? got.r : String());
   }
   return keys;
 }
 
-TEST_F(KeyPipelineTest, TextKeysComeOutAfterTheBlankingKeyAndBeforeHomeAndT) {
-  KySaisie{}.ClavierVirtuel(u"AB", 13, true);
-  const std::vector<std::pair<Integer, String>> expected = {
-      {27, u""}, {0, u"A"}, {0, u"B"}, {36, u""}, {13, u""}};
-  EXPECT_EQ(ReadAll(), expected);
-  EXPECT_TRUE(Env().ToucheVirtuelle);
-  EXPECT_EQ(State().ClavierTampon, u"[]");
-}
-
-TEST_F(KeyPipelineTest, EmptyTextKeyNumbersAndReplacement) {
+TEST_F(KeyPipelineTest, VirtualKeysComeOutAfterTheBlankingKeyAndBeforeHomeAndT) {
   KySaisie k;
+  k.ClavierVirtuel(u"AB", 13, true);
+  EXPECT_EQ(ReadAll(), (Keys{{27, u""}, {0, u"A"}, {0, u"B"}, {36, u""}, {13, u""}}));
+  EXPECT_TRUE(Env().ToucheVirtuelle);
   k.ClavierVirtuel(u"", 0, true);
-  EXPECT_EQ(ReadAll(), (std::vector<std::pair<Integer, String>>{{27, u""}, {36, u""}}));
-
+  EXPECT_EQ(ReadAll(), (Keys{{27, u""}, {36, u""}}));
   k.ClavierVirtuel(u"xyz", 13, false);
   k.ClavierVirtuelToucheFonction(13);  // replaces the first call entirely
-  EXPECT_EQ(ReadAll(), (std::vector<std::pair<Integer, String>>{{27, u""}, {13, u""}}));
-
+  EXPECT_EQ(ReadAll(), (Keys{{27, u""}, {13, u""}}));
   k.ClavierVirtuel(String(1, u'\0') + u" 40.4", 13, false);  // T ignored for a key number
-  EXPECT_EQ(ReadAll(), (std::vector<std::pair<Integer, String>>{{40, u""}}));
-
+  EXPECT_EQ(ReadAll(), (Keys{{40, u""}}));
   // A text with brackets, commas and quotes travels through the list intact.
   k.ClavierVirtuel(u"[a,\"]", 0, false);
-  EXPECT_EQ(ReadAll(), (std::vector<std::pair<Integer, String>>{
-                           {0, u"["}, {0, u"a"}, {0, u","}, {0, u"\""}, {0, u"]"}, {36, u""}}));
+  EXPECT_EQ(ReadAll(),
+            (Keys{{0, u"["}, {0, u"a"}, {0, u","}, {0, u"\""}, {0, u"]"}, {36, u""}}));
 }
 
 TEST_F(KeyPipelineTest, KeyOutsideTheCodePageFailsAfterWhatWasAdded) {
