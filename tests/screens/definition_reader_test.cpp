@@ -12,13 +12,6 @@ namespace {
 
 class ReaderTest : public ScreenTest {
  protected:
-  std::vector<std::string> Reports() {
-    std::vector<std::string> out;
-    for (const auto& r : session.Records().reports) {
-      out.push_back(ToUtf8(r.source) + ": " + ToUtf8(r.text));
-    }
-    return out;
-  }
   // Identifiers and colours of records 1 to NbRub, "A:I B:R ...".
   std::string Colours() {
     std::string out;
@@ -35,7 +28,7 @@ TEST_F(ReaderTest, CommandsAreCaseSensitiveButNReDimAndUnknownOnesAreReported) {
       Read(u"[@col8,[A,a,A],@coulR,[B,b,A],@COL8,@COLONNE,[C,c,A],@NReDi,@,@nredimXYZ,[D,d,A]]");
   EXPECT_EQ(rest, u"[]");
   EXPECT_EQ(Env().RubCourante, 0);
-  EXPECT_EQ(Reports(), (std::vector<std::string>{
+  EXPECT_EQ(TakeReports(), (std::vector<std::string>{
                            "DORVI: Commande @col8@ Inconnue @",
                            "DORVI: Commande @coulR@ Inconnue @",
                            "DORVI: Commande @NReDi@ Inconnue @",

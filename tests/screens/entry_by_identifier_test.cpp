@@ -4,10 +4,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "entry/entry_fixture.hpp"
 #include "forms/form.hpp"
 #include "headless/key_interception.hpp"
-#include "screens/field_fixture.hpp"
+#include "screens/screens_fixture.hpp"
 
 namespace ferlan::testing {
 namespace {
@@ -42,27 +44,21 @@ TEST_F(EntryByIdentifierTest, EntryRoundsTheRecordAndDisplayDoesNot) {
 }
 
 // A number goes through the calculator, a date gives its sort number, and
-// Valeur holds the stored form: two characters for an "I0", padded.
+// Valeur holds the stored form: two characters for an "I0", padded. SaiD on
+// a field that is no date gives O 0.
 TEST_F(EntryByIdentifierTest, NumbersAndDatesComeBackInStoredForm) {
   AddField(u"QTE", u"I0", 5, 105, 1785, 735, 1800, 5);
   AddField(u"DATEFAC", u"D", 7, 105, 1785, 1260, 1800, 10);
-  String qte = StoredInteger(0);
+  String qte = StoredInteger(0), date = u"01/02/2003";
   Integer tr = -1;
+  Long o = -1;
   Type("12*3{Enter}{Enter}");
   KySaisie{}.Sai(u"QTE", qte, tr);
-  EXPECT_EQ(qte, StoredInteger(36));
   EXPECT_EQ(Record(1).Valeur.Text(), StoredInteger(36) + String(98, u' '));
-
-  String date = u"01/02/2003";
-  Long o = -1;
   Type("{Esc}15081999{PgDn}");
   KySaisie{}.SaiD(u"DATEFAC", date, tr, o);
-  EXPECT_EQ(date, u"15/08/1999");
-  EXPECT_EQ(tr, 34);
-  EXPECT_EQ(o, 19990815);
+  EXPECT_EQ(std::tuple(date, tr, o), std::tuple(String(u"15/08/1999"), Integer{34}, Long{19990815}));
   EXPECT_EQ(Record(2).Valeur.Trimmed(), u"15/08/1999");
-
-  // SaiD on a field that is no date gives O 0.
   Type("7{Enter}");
   KySaisie{}.SaiD(u"QTE", qte, tr, o);
   EXPECT_EQ(o, 0);

@@ -10,7 +10,7 @@
 #include "entry/entry_fixture.hpp"
 #include "forms/bitmap.hpp"
 #include "headless/fixed_canvas.hpp"
-#include "screens/field_fixture.hpp"
+#include "screens/screens_fixture.hpp"
 
 namespace ferlan::testing {
 namespace {
@@ -109,16 +109,8 @@ TEST_F(FieldDisplayTest, PictureRightOfTheFieldGrowsTheSurfaceThenPaints) {
   EXPECT_EQ(headless::Describe(canvas.Ops().back()), "Picture 5250 1560 9000 30");
 }
 
-// With no picture, the line is erased first and then the object error rises.
-TEST_F(FieldDisplayTest, PictureMissingFailsAfterTheErase) {
-  ExpectPlatformError([&] { KySaisie{}.ImageAD(u"NOM", nullptr); }, 91);
-  EXPECT_THAT(TakeLog(), StartsWith("EffaceRect 5250 936 "));
-  ExpectPlatformError([&] { KySaisie{}.ImageAD(u"NOM", session.NewPictureBox()); }, 91);
-  EXPECT_THAT(TakeLog(), StartsWith("EffaceRect 5250 936 "));
-  ExpectPlatformError([&] { KySaisie{}.ImageSD(u"NOM", nullptr); }, 91);
-}
-
-// ImageSD moves the control itself under the entry box and shows it.
+// ImageSD moves the control itself under the entry box and shows it. With
+// no picture, the line is erased first and then the object error rises.
 TEST_F(FieldDisplayTest, PictureUnderTheFieldMovesTheControl) {
   auto box = PictureControl(10);
   KySaisie{}.ImageSD(u"PRIX", box);
@@ -126,6 +118,9 @@ TEST_F(FieldDisplayTest, PictureUnderTheFieldMovesTheControl) {
   EXPECT_TRUE(box->Visible());
   EXPECT_EQ(box->Left(), 1785.5F);
   EXPECT_EQ(box->Top(), 1872);
+  ExpectPlatformError([&] { KySaisie{}.ImageAD(u"NOM", session.NewPictureBox()); }, 91);
+  EXPECT_THAT(TakeLog(), StartsWith("EffaceRect 5250 936 "));
+  ExpectPlatformError([&] { KySaisie{}.ImageSD(u"NOM", nullptr); }, 91);
 }
 
 // An unknown identifier is reported, then record 0 (line 0, X 0) is used.

@@ -3,41 +3,23 @@
 // hand from the labels' lengths (10.5 units a character).
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 #include "screens/screens_fixture.hpp"
 
 namespace ferlan::testing {
 namespace {
 
-// A record's numbers after the layout.
-struct Placed {
-  std::string identif;
-  std::string coul;
-  Integer lc;
-  Single lct, lzt;
-  Integer l;
-  Single clt, czt, ct, llt;
-  friend bool operator==(const Placed&, const Placed&) = default;
-  friend void PrintTo(const Placed& p, std::ostream* out) {
-    *out << p.identif << " " << p.coul << " LC " << p.lc << " LcT " << p.lct << " LzT " << p.lzt
-         << " L " << p.l << " ClT " << p.clt << " CzT " << p.czt << " CT " << p.ct << " LlT "
-         << p.llt;
-  }
-};
-
 class LayoutTest : public ScreenTest {
  protected:
-  Placed At(int i) {
+  // A record's numbers after the layout: Identif Coul LC LcT LzT L ClT CzT CT LlT.
+  std::string At(int i) {
     const RubRecord& r = Rub(i);
-    return {ToUtf8(r.Identif.Trimmed()),
-            ToUtf8(r.Coul.Trimmed()),
-            r.LC,
-            r.LcT,
-            r.LzT,
-            r.L,
-            r.ClT,
-            r.CzT,
-            r.CT,
-            r.LlT};
+    std::ostringstream out;
+    out << ToUtf8(r.Identif.Trimmed()) << " " << ToUtf8(r.Coul.Trimmed()) << " " << r.LC << " "
+        << r.LcT << " " << r.LzT << " " << r.L << " " << r.ClT << " " << r.CzT << " " << r.CT
+        << " " << r.LlT;
+    return out.str();
   }
 };
 
@@ -55,10 +37,10 @@ TEST_F(LayoutTest, WorkedScreenGetsThePositionsItsTextWorksOut) {
   // The widest label that starts a line is "Date de facture", 1575: both
   // line starters get 1575 + 105. CODE follows NOM's entry box by a column;
   // TOTAL is centred: (8000 - (2100 + 1470 + 105)) \ 2 = 2162.
-  EXPECT_EQ(At(1), (Placed{"NOM", "I", 30, 3150, 3360, 4, 1050, 2772, 2835, 1680}));
-  EXPECT_EQ(At(2), (Placed{"CODE", "I", 5, 525, 735, 4, 6237, 6804, 6867, 525}));
-  EXPECT_EQ(At(3), (Placed{"DATEFAC", "R", 10, 1050, 1260, 7, 1050, 2772, 2835, 1680}));
-  EXPECT_EQ(At(4), (Placed{"TOTAL", "S", 12, 1260, 1470, 9, 2162, 4304, 4367, 2100}));
+  EXPECT_EQ(At(1), "NOM I 30 3150 3360 4 1050 2772 2835 1680");
+  EXPECT_EQ(At(2), "CODE I 5 525 735 4 6237 6804 6867 525");
+  EXPECT_EQ(At(3), "DATEFAC R 10 1050 1260 7 1050 2772 2835 1680");
+  EXPECT_EQ(At(4), "TOTAL S 12 1260 1470 9 2162 4304 4367 2100");
   // Sized for TOTAL's line + 3 and the right edge of CODE, 7539, plus two
   // columns each side; then drawn, boxes 3 units above the line and 309 high.
   const std::string drawing =
@@ -81,7 +63,7 @@ TEST_F(LayoutTest, WorkedScreenGetsThePositionsItsTextWorksOut) {
   ky.AffPos(20);
   ky.EcrSais(true);
   EXPECT_EQ(TakeLog(), "Hauteur 3744 False\nLargeur 7959 False\n" + drawing);
-  EXPECT_EQ(At(4), (Placed{"TOTAL", "S", 12, 1260, 1470, 9, 2162, 4304, 4367, 2100}));
+  EXPECT_EQ(At(4), "TOTAL S 12 1260 1470 9 2162 4304 4367 2100");
 }
 
 TEST_F(LayoutTest, SharedLabelWidthComesFromLineStartersWithAutomaticWidth) {

@@ -1,8 +1,10 @@
-// The fixture of the entry-screen suites: a headless session on the
+// The fixtures of the entry-screen suites: a headless session on the
 // fixed-metric surface (a column 105 wide, a line 312 high, MargeX and
-// MargeY 1), a palette of small numbers so that drawing logs read easily,
-// and the record table of the session's apartment.
+// MargeY 1), the record table of its apartment, and the reports Erreur got.
 #pragma once
+
+#include <string>
+#include <vector>
 
 #include "component/module_state.hpp"
 #include "ferlan/kysaisie.hpp"
@@ -10,7 +12,42 @@
 
 namespace ferlan::testing {
 
-class ScreenTest : public SessionTest {
+class FieldTest : public SessionTest {
+ protected:
+  // Appends a record: line, label X, entry box X and width, text X.
+  RubRecord& AddField(StringView id, StringView typ, Integer line, Single clt, Single czt,
+                      Single lzt, Single ct, Integer lc = 10) {
+    ModuleState& st = State();
+    RubRecord& r = st.Rub.at(static_cast<std::size_t>(++st.NbRub));
+    r.Identif = id;
+    r.Libelle = id;
+    r.TypeDon = typ;
+    r.Coul = u"I";
+    r.LC = lc;
+    r.LcT = KySaisie{}.WinCol(lc);
+    r.L = line;
+    r.ClT = clt;
+    r.LlT = czt - clt;
+    r.CzT = czt;
+    r.LzT = lzt;
+    r.CT = ct;
+    return r;
+  }
+  RubRecord& Record(Integer n) { return State().Rub.at(static_cast<std::size_t>(n)); }
+  // "source: text" of each report since the last look (the number alone for a code).
+  std::vector<std::string> TakeReports() {
+    std::vector<std::string> out;
+    for (const auto& r : session.Records().reports) {
+      out.push_back(r.code ? std::to_string(*r.code) : ToUtf8(r.source) + ": " + ToUtf8(r.text));
+    }
+    session.Records().reports.clear();
+    return out;
+  }
+};
+
+// Screens read by Dorvi, with a palette of small numbers so that drawing
+// logs read easily.
+class ScreenTest : public FieldTest {
  protected:
   void SetUp() override {
     Env().Bleu = 1;
@@ -24,7 +61,7 @@ class ScreenTest : public SessionTest {
     ky.Dorvi(list);
     return list;
   }
-  const RubRecord& Rub(int i) { return State().Rub.at(static_cast<std::size_t>(i)); }
+  const RubRecord& Rub(int i) { return Record(static_cast<Integer>(i)); }
   Integer NbRub() { return State().NbRub; }
   KySaisie ky;
 };

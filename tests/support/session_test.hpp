@@ -36,9 +36,8 @@ class SessionTest : public ::testing::Test {
   std::vector<std::string> typed_;
 };
 
-// Runs `fn`, which must raise the platform error `number`. Its description
-// must be `text` when one is given, else the platform's text of that number
-// (with or without a detail after it). Failures name the caller's line.
+// Runs `fn`, which must raise the platform error `number`, with the
+// description `text` when one is given. Failures name the caller's line.
 void ExpectPlatformError(const std::function<void()>& fn, Long number,
                          std::string_view text = {}, const char* file = __builtin_FILE(),
                          int line = __builtin_LINE());

@@ -6,50 +6,41 @@
 #include <string>
 
 #include "display/display_fixture.hpp"
-#include "cli/automate_session.hpp"
 #include "kit/dessin.hpp"
+#include "support/automate_fixture.hpp"
 
 namespace ferlan::testing {
 namespace {
 
 using tool::Json;
 
-class TableAutomateTest : public ::testing::Test {
- protected:
-  Json Ask(std::string_view line) {
-    Json answer = Json::parse(session.Handle(line));
-    EXPECT_TRUE(answer["ok"].get<bool>()) << line << " -> " << answer.dump();
-    return answer;
-  }
-  Json Result(const std::string& call) { return Ask(R"({"call":)" + call + "}")["result"]; }
-  tool::AutomateSession session{tool::SurfaceKind::Fixed};
-};
+using TableAutomateTest = tool::AutomateFixture;
 
 constexpr const char* kClients =
     R"({"call":"AffTab","args":[10,"[[NOM,Nom du client,30],[VILLE,Ville,12],[CP,Code Postal,5]]"]})";
 
 TEST_F(TableAutomateTest, TheClientTableGetsItsColumnsCellsAndLines) {
-  Ask(R"({"call":"DimensionFeuille","args":[25,76]})");  // 80 grid columns
-  Ask(R"({"call":"AffPos","args":[5,1]})");
-  Ask(R"({"log":true})");
-  const Json drawn = Ask(kClients);
+  Call("DimensionFeuille", {25, 76});  // 80 grid columns
+  Call("AffPos", {5, 1});
+  Log();
+  const Json drawn = Ok(kClients);
   EXPECT_EQ(drawn["args"][1], "[]");  // the description is consumed
   EXPECT_EQ(drawn["reports"], Json::array());
 
-  EXPECT_EQ(Result(R"("CTab","args":["NOM"])"), 10);
-  EXPECT_EQ(Result(R"("CTab","args":["VILLE   "])"), 43);  // trailing blanks do not count
-  EXPECT_EQ(Result(R"("CTab","args":["CP"])"), 58);
-  EXPECT_EQ(Result(R"("NLTab")"), 10);
-  EXPECT_EQ(Result(R"("LTab","args":[0])"), 5);  // the titles' line
-  EXPECT_EQ(Result(R"("LTab","args":[1])"), 6);
-  EXPECT_EQ(Result(R"("LTab","args":[10])"), 15);
-  const Json found = Ask(R"({"call":"RechIdenTab","args":["CP",0]})");
+  EXPECT_EQ(Call("CTab", {"NOM"})["result"], 10);
+  EXPECT_EQ(Call("CTab", {"VILLE   "})["result"], 43);  // trailing blanks do not count
+  EXPECT_EQ(Call("CTab", {"CP"})["result"], 58);
+  EXPECT_EQ(Call("NLTab")["result"], 10);
+  EXPECT_EQ(Call("LTab", {0})["result"], 5);  // the titles' line
+  EXPECT_EQ(Call("LTab", {1})["result"], 6);
+  EXPECT_EQ(Call("LTab", {10})["result"], 15);
+  const Json found = Call("RechIdenTab", {"CP", 0});
   EXPECT_EQ(found["args"][1], 3);
 
   // Room was there (6930 x 4462): no sizing, only the boxes, column by
   // column, the title first. Cells are a pitch high and Larg + 3 columns
   // wide, one column left of the text and 58 above it.
-  const Json ops = Ask(R"({"log":true})")["ops"];
+  const Json ops = Log();
   ASSERT_EQ(ops.size(), 33u);
   const Long bleu = 0x00C00000, jaune = 0x0000FFFF, blanc = 0x00FFFFFF;
   struct Column {
@@ -69,22 +60,22 @@ TEST_F(TableAutomateTest, TheClientTableGetsItsColumnsCellsAndLines) {
           << c.title << " row " << row;
     }
   }
-  EXPECT_EQ(Ask(R"({"get":["Env.CourantY"]})")["values"]["Env.CourantY"], 1560);  // not moved
+  EXPECT_EQ(Get("Env.CourantY"), 1560);  // not moved
 }
 
 TEST_F(TableAutomateTest, ANarrowSurfaceIsWidenedForTheTableAndTheMarginIsOne) {
-  Ask(R"({"call":"DimensionFeuille","args":[10,56]})");  // 60 columns, 10 lines
-  Ask(R"({"call":"AffPos","args":[5,1]})");
-  Ask(R"({"log":true})");
-  Ask(kClients);
-  const Json ops = Ask(R"({"log":true})")["ops"];
+  Call("DimensionFeuille", {10, 56});  // 60 columns, 10 lines
+  Call("AffPos", {5, 1});
+  Log();
+  Ok(kClients);
+  const Json ops = Log();
   ASSERT_GE(ops.size(), 2u);
   // WinCol(64 + 2) wide; WinLigne(13) x 1.1 below line 5.
   EXPECT_EQ(ops[0], Json::parse(R"(["Largeur",6930,false])"));
   EXPECT_EQ(ops[1], Json::parse(R"(["Hauteur",6022,false])"));
   // 66 columns now: (66 - 64) / 2 is 1, and the text starts 2 further.
-  EXPECT_EQ(Result(R"("CTab","args":["NOM"])"), 3);
-  EXPECT_EQ(Result(R"("CTab","args":["CP"])"), 51);
+  EXPECT_EQ(Call("CTab", {"NOM"})["result"], 3);
+  EXPECT_EQ(Call("CTab", {"CP"})["result"], 51);
 }
 
 // A Dessin that will not widen the surface, so that a table too wide for it

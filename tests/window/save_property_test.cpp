@@ -82,38 +82,25 @@ class Sequence {
   // `steps` random operations; each restore is checked against its save.
   void Run(int steps) {
     for (int step = 0; step < steps; ++step) {
-      switch (Pick(0, 6)) {
-        case 0:
-          ky_.Affiche(Pick(1, 18), static_cast<Integer>(Pick(1, 60)), u"N", Word());
-          break;
-        case 1:
-          ky_.DimensionFeuille(static_cast<Integer>(Pick(8, 35)),
-                               static_cast<Integer>(Pick(30, 120)));
-          break;
-        case 2:
-          ky_.Titre(Word());
-          break;
-        case 3:
-          Define();
-          break;
-        case 4:
-          Table();
-          break;
-        case 5:
-          if (saved_.size() < 5) {
-            saved_.push_back(Screen(session_));
-            last_table_ = TableText();
-            ky_.MemEcrSais();
-          }
-          break;
-        default:
-          if (!saved_.empty()) {
-            ky_.ResEcrSais();
-            ASSERT_EQ(Screen(session_), saved_.back()) << "after step " << step;
-            ASSERT_EQ(TableText(), last_table_) << "after step " << step;
-            saved_.pop_back();
-            ++restores_;
-          }
+      const int what = Pick(0, 6);
+      if (what == 0) ky_.Affiche(Pick(1, 18), static_cast<Integer>(Pick(1, 60)), u"N", Word());
+      if (what == 1) {
+        ky_.DimensionFeuille(static_cast<Integer>(Pick(8, 35)), static_cast<Integer>(Pick(30, 120)));
+      }
+      if (what == 2) ky_.Titre(Word());
+      if (what == 3) Define();
+      if (what == 4) Table();
+      if (what == 5 && saved_.size() < 5) {
+        saved_.push_back(Screen(session_));
+        last_table_ = TableText();
+        ky_.MemEcrSais();
+      }
+      if (what == 6 && !saved_.empty()) {
+        ky_.ResEcrSais();
+        ASSERT_EQ(Screen(session_), saved_.back()) << "after step " << step;
+        ASSERT_EQ(TableText(), last_table_) << "after step " << step;
+        saved_.pop_back();
+        ++restores_;
       }
       ASSERT_TRUE(session_.Records().reports.empty()) << "step " << step;
     }

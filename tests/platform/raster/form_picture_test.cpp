@@ -14,6 +14,7 @@
 #include "kit/dessin.hpp"
 #include "raster/picture_files.hpp"
 #include "raster/raster_canvas.hpp"
+#include "support/session_test.hpp"
 
 namespace ferlan::raster {
 namespace {
@@ -123,13 +124,6 @@ TEST_F(FormPictureTest, ToolbarCaretAndMessageZoneShowOnlyWhenVisible) {
   // The caret's picture is stretched to the control's width, as wide as a letter.
   caret->SetWidth(135);
   EXPECT_EQ(black(*Compose()), 9 * 5);
-  // The insert picture keeps its drawing: its tip in the middle of the top row.
-  caret->SetPicture(DecodePicture(CaretInsertionImage()));
-  caret->SetWidth(165);
-  picture = Compose();
-  EXPECT_EQ(At(*picture, kOx + 105, kOy + 40), 0);
-  EXPECT_EQ(At(*picture, kOx + 105, kOy + 41), env.Jaune);
-  EXPECT_EQ(At(*picture, kOx + 104, kOy + 40), kWhite);
 }
 
 // The host's own picture controls show on the surface, in its scale and
@@ -226,6 +220,44 @@ TEST_F(FormPictureTest, DessinsNestedSavesComeBackPixelForPixelLastFirst) {
   }
   dessin.ResImage(*surface);  // nothing left to restore: the surface stays as it is
   EXPECT_EQ(Shown(), shown[0]);
+}
+
+// Pictures from BMP and PNG bytes and files, and PNG output.
+// The caret's pictures, 11 x 5 pixels, top row first: K black, W white, Y yellow.
+constexpr std::string_view kInsertion =
+    "WWWWWKWWWWW"
+    "WWWWKYKWWWW"
+    "WWWKYYYKWWW"
+    "WWKYYYYYKWW"
+    "KKYYYYYYYKK";
+
+void ExpectCaret(const forms::Bitmap& picture, std::string_view rows) {
+  std::vector<forms::Rgb> pixels;
+  const forms::Rgb black{}, white{255, 255, 255}, yellow{255, 255, 0};
+  for (char c : rows) pixels.push_back(c == 'K' ? black : c == 'Y' ? yellow : white);
+  EXPECT_EQ(std::pair(picture.PixelWidth(), picture.PixelHeight()), std::pair(11, 5));
+  EXPECT_EQ(picture.Pixels(), pixels);
+}
+
+TEST(PictureFilesTest, CaretBmpsLoadAsDrawnAndComeBackFromPng) {
+  ASSERT_EQ(CaretInsertionImage().size(), 234u);  // 24 bits, rows bottom-up padded to 36 bytes
+  const auto insertion = DecodePicture(CaretInsertionImage());
+  ExpectCaret(*insertion, kInsertion);
+  ExpectCaret(*DecodePicture(CaretSurchargeImage()), std::string(55, 'K'));
+  const std::vector<std::uint8_t> png = EncodePng(*insertion);
+  EXPECT_EQ(std::string(png.begin() + 1, png.begin() + 4), "PNG");
+  ExpectCaret(*DecodePicture(png), kInsertion);
+}
+
+TEST(PictureFilesTest, BadPicturesAreInvalidCalls) {
+  const auto png = EncodePng(forms::Bitmap(2, 1, {{0, 0, 0}, {255, 255, 255}}));
+  const std::vector<std::uint8_t> cases[] = {
+      {'h', 'e', 'l', 'l', 'o'}, {}, {png.begin(), png.begin() + 20}};  // the last: a cut PNG
+  for (const auto& bytes : cases) {
+    ferlan::testing::ExpectPlatformError([&] { DecodePicture(bytes); }, 5);
+  }
+  ferlan::testing::ExpectPlatformError([] { LoadPictureFile("/nonexistent/caret.png"); }, 5);
+  ferlan::testing::ExpectPlatformError([] { EncodePng(forms::Bitmap(0, 0, {})); }, 5);
 }
 
 }  // namespace

@@ -43,17 +43,13 @@ TEST(RasterCanvasTest, PictureBoxMeasuresDejaVuSansAndDoublesWithTheSize) {
   EXPECT_NEAR(box.TextHeight(u"a\r\nb"), 2 * box.TextHeight(u"a"), 0.01);
   box.Font().SetBold(true);
   EXPECT_NEAR(box.TextWidth(u"T"), 1397.0 * 200 / 2048, 0.01);  // 136.43
-  for (const bool bold : {false, true}) {
-    box.Font().SetBold(bold);
-    for (const Single size : {8.0f, 10.0f, 12.0f}) {
-      for (const StringView text : {u"T", u" ", u"Total 1 234,50 \u20ac"}) {
-        box.Font().SetSize(size);
-        const Single width = box.TextWidth(text), height = box.TextHeight(text);
-        box.Font().SetSize(size * 2);
-        EXPECT_NEAR(box.TextWidth(text), 2 * width, kTwipsPerPixel) << size << bold;
-        EXPECT_NEAR(box.TextHeight(text), 2 * height, kTwipsPerPixel) << size << bold;
-      }
-    }
+  // Twice the size, twice the measures, within a pixel.
+  for (const StringView text : {u"T", u"Total 1 234,50 \u20ac"}) {
+    box.Font().SetSize(8);
+    const Single width = box.TextWidth(text), height = box.TextHeight(text);
+    box.Font().SetSize(16);
+    EXPECT_NEAR(box.TextWidth(text), 2 * width, kTwipsPerPixel);
+    EXPECT_NEAR(box.TextHeight(text), 2 * height, kTwipsPerPixel);
   }
   // Many sizes: the glyph cache stays within its bound.
   GlyphCache& cache = GlyphCache::ForThisThread();
