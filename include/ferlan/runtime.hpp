@@ -42,7 +42,7 @@ class PlatformError : public std::exception {
   static PlatformError ObjectNotSet();                              // 91
   static PlatformError CannotCreateObject(std::string_view class_name);  // 429
   static PlatformError MemberNotSupported(std::string_view member);      // 438
-  static PlatformError NotBuilt(std::string_view what);                  // 445
+  static PlatformError ActionNotSupported(std::string_view what);        // 445
   static PlatformError ArgumentNotOptional(std::string_view detail = {});  // 449
   static PlatformError WrongArgumentCount(std::string_view detail = {});   // 450
   // A failure of a drawing or window library, with that library's own text.

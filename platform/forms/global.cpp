@@ -28,7 +28,8 @@ TimerRef Global::CreateTimer(std::function<void()> on_tick) {
 PictureRef Global::LoadPicture(std::span<const std::uint8_t> image) {
   if (LooksLikeBmp(image)) return DecodeBmp(image);
   if (LooksLikePng(image)) {
-    if (!png_decoder_) throw PlatformError::NotBuilt("PNG pictures without the raster back-end");
+    if (!png_decoder_) throw PlatformError::ActionNotSupported(
+          "PNG pictures without the raster back-end");
     return png_decoder_(image);
   }
   throw PlatformError::InvalidCall("LoadPicture: neither a BMP nor a PNG image");

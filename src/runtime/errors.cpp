@@ -37,8 +37,8 @@ PlatformError PlatformError::CannotCreateObject(std::string_view class_name) {
 PlatformError PlatformError::MemberNotSupported(std::string_view member) {
   return {438, WithDetail("Object doesn't support this property or method", member)};
 }
-PlatformError PlatformError::NotBuilt(std::string_view what) {
-  return {445, std::string(what) + " is not built yet"};
+PlatformError PlatformError::ActionNotSupported(std::string_view what) {
+  return {445, WithDetail("Object doesn't support this action", what)};
 }
 PlatformError PlatformError::ArgumentNotOptional(std::string_view detail) {
   return {449, WithDetail("Argument not optional", detail)};
