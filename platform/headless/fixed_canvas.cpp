@@ -20,17 +20,6 @@ bool Inside(const DrawOp& op, Single left, Single top, Single right, Single bott
          std::min(op.y1, op.y2) >= top && std::max(op.y1, op.y2) <= bottom;
 }
 
-DrawOp Shape(DrawOp::Kind kind, Single x1, Single y1, Single x2, Single y2, Long colour) {
-  DrawOp op;
-  op.kind = kind;
-  op.x1 = x1;
-  op.y1 = y1;
-  op.x2 = x2;
-  op.y2 = y2;
-  op.colour = colour;
-  return op;
-}
-
 }  // namespace
 
 std::string Describe(const DrawOp& op) {
@@ -93,28 +82,29 @@ void FixedCanvas::FillBox(Single x1, Single y1, Single x2, Single y2, Long colou
       return true;
     });
   }
-  Add(Shape(DrawOp::Kind::FillBox, x1, y1, x2, y2, colour));
+  AddShape(DrawOp::Kind::FillBox, x1, y1, x2, y2, colour);
 }
 
 void FixedCanvas::Box(Single x1, Single y1, Single x2, Single y2, Long colour) {
-  Add(Shape(DrawOp::Kind::Box, x1, y1, x2, y2, colour));
+  AddShape(DrawOp::Kind::Box, x1, y1, x2, y2, colour);
 }
 
 void FixedCanvas::Line(Single x1, Single y1, Single x2, Single y2, Long colour) {
-  Add(Shape(DrawOp::Kind::Line, x1, y1, x2, y2, colour));
+  AddShape(DrawOp::Kind::Line, x1, y1, x2, y2, colour);
 }
 
 void FixedCanvas::Text(Single x, Single y, StringView text, const forms::FontSpec& font,
                        Long colour) {
-  DrawOp op = Shape(DrawOp::Kind::Text, x, y, x + TextWidth(text, font),
-                    y + TextHeight(text, font), colour);
+  // Made in its place in the list, then indexed.
+  DrawOp& op = Append(DrawOp::Kind::Text, x, y, x + TextWidth(text, font),
+                      y + TextHeight(text, font), colour);
   if (!spare_texts_.empty()) {
     op.text = std::move(spare_texts_.back());
     spare_texts_.pop_back();
   }
   op.text.assign(text);
   op.font = font;
-  Add(std::move(op));
+  Added();
 }
 
 PictureRef FixedCanvas::Snapshot() {
@@ -127,7 +117,7 @@ void FixedCanvas::Paint(const Picture& picture, Single x, Single y) {
   const Single bottom = y + picture.Height();
   const auto* list = dynamic_cast<const DisplayListPicture*>(&picture);
   if (!list) {
-    Add(Shape(DrawOp::Kind::Picture, x, y, right, bottom, 0));
+    AddShape(DrawOp::Kind::Picture, x, y, right, bottom, 0);
     return;
   }
   if (x == 0 && y == 0 && right >= width_ && bottom >= height_) {
@@ -137,7 +127,7 @@ void FixedCanvas::Paint(const Picture& picture, Single x, Single y) {
     Reindex();
     return;
   }
-  Add(Shape(DrawOp::Kind::FillBox, x, y, right, bottom, list->Background()));
+  AddShape(DrawOp::Kind::FillBox, x, y, right, bottom, list->Background());
   for (DrawOp op : list->Ops()) {
     op.x1 += x;
     op.x2 += x;
@@ -147,8 +137,30 @@ void FixedCanvas::Paint(const Picture& picture, Single x, Single y) {
   }
 }
 
+DrawOp& FixedCanvas::Append(DrawOp::Kind kind, Single x1, Single y1, Single x2, Single y2,
+                            Long colour) {
+  DrawOp& op = ops_.emplace_back();
+  op.kind = kind;
+  op.x1 = x1;
+  op.y1 = y1;
+  op.x2 = x2;
+  op.y2 = y2;
+  op.colour = colour;
+  return op;
+}
+
+void FixedCanvas::AddShape(DrawOp::Kind kind, Single x1, Single y1, Single x2, Single y2,
+                           Long colour) {
+  Append(kind, x1, y1, x2, y2, colour);
+  Added();
+}
+
 void FixedCanvas::Add(DrawOp op) {
   ops_.push_back(std::move(op));
+  Added();
+}
+
+void FixedCanvas::Added() {
   // Trimmed by a quarter at a time, so that each item costs a constant share.
   if (Live() > kOpsLimit + kOpsLimit / 4) {
     Compact();

@@ -95,6 +95,11 @@ class FixedCanvas final : public forms::Canvas {
 
  private:
   void Add(DrawOp op);
+  void AddShape(DrawOp::Kind kind, Single x1, Single y1, Single x2, Single y2, Long colour);
+  // The item goes at the end of the list; Added then indexes it and keeps
+  // the list within its limit.
+  DrawOp& Append(DrawOp::Kind kind, Single x1, Single y1, Single x2, Single y2, Long colour);
+  void Added();
   // The index of bottoms made again from ops_ (after it is replaced or cut).
   void Reindex();
   void Index(const DrawOp& op);
