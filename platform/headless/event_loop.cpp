@@ -39,9 +39,9 @@ std::int64_t EventLoop::Step() {
     limit = kStarvationMs - empty_ms_;
   }
   const std::int64_t now = clock_.Now();
-  for (const auto& weak : timers_) {
-    if (auto timer = weak.lock(); timer && !Coalesces(*timer)) {
-      if (auto due = timer->NextDue()) limit = std::min(limit, *due - now);
+  for (const Made& made : timers_) {
+    if (!made.owner.expired() && !Coalesces(*made.timer)) {
+      if (auto due = made.timer->NextDue()) limit = std::min(limit, *due - now);
     }
   }
   // With no deadline ahead, time goes on as the caller asks for it.
@@ -94,22 +94,24 @@ bool EventLoop::DeliverOne(std::int64_t ms, bool& acted) {
 TimerRef EventLoop::CreateTimer(std::function<void()> on_tick) {
   auto timer = std::make_shared<forms::Timer>(std::move(on_tick),
                                               [&clock = clock_] { return clock.Now(); });
-  timers_.push_back(timer);
+  timers_.push_back({timer, timer.get()});
   return timer;
 }
 
 bool EventLoop::FireDueTimers() {
   // Dropped timers leave the list only outside any tick, so that the walk
   // of an outer DoEvents keeps its place when a tick runs DoEvents.
-  if (firing_depth_ == 0) std::erase_if(timers_, [](const auto& t) { return t.expired(); });
+  if (firing_depth_ == 0) std::erase_if(timers_, [](const Made& t) { return t.owner.expired(); });
   ++firing_depth_;
   bool fired = false;
   try {
     // By index: a tick may make a timer, which comes last.
     for (std::size_t i = 0; i < timers_.size(); ++i) {
-      std::shared_ptr<forms::Timer> timer = timers_[i].lock();
+      if (timers_[i].owner.expired()) continue;
       const std::int64_t now = clock_.Now();
-      if (timer && timer->Due(now)) {
+      if (!timers_[i].timer->Due(now)) continue;
+      // Held while it fires: its tick may drop the last share of it.
+      if (const std::shared_ptr<forms::Timer> timer = timers_[i].owner.lock()) {
         // The tick of a coalescing timer leaves the loop idle.
         fired = fired || !Coalesces(*timer);
         timer->Fire(now);
