@@ -59,9 +59,15 @@ void EventLoop::DropFinishedWaits() {
 bool EventLoop::DeliverOne(std::int64_t ms, bool& acted) {
   DropFinishedWaits();
   if (script_.Empty()) return false;
-  // Copied out: a handler may queue more keys and so move the front.
-  KeyItem item = script_.Front();
-  switch (item.kind) {
+  // The key's fields are copied out (not its source text): a handler may
+  // queue more keys and so move the front.
+  const KeyItem& front = script_.Front();
+  const bool has_down = front.has_down;
+  const Integer down_code = front.key_code;
+  const Integer shift = front.shift;
+  const bool has_press = front.has_press;
+  const Integer press_ascii = front.key_ascii;
+  switch (front.kind) {
     case KeyItem::Kind::Wait:
       // These milliseconds pass with no key; Step never goes past the wait.
       script_.Front().wait_ms -= static_cast<Long>(ms);
@@ -80,12 +86,12 @@ bool EventLoop::DeliverOne(std::int64_t ms, bool& acted) {
   if (!form_) return true;
   // Both events of one keystroke come inside the same DoEvents, as on the
   // platform; a handler that zeroes KeyCode does not stop the KeyPress.
-  if (item.has_down) {
-    Integer key_code = item.key_code;
-    form_->RaiseKeyDown(key_code, item.shift);
+  if (has_down) {
+    Integer key_code = down_code;
+    form_->RaiseKeyDown(key_code, shift);
   }
-  if (item.has_press) {
-    Integer key_ascii = item.key_ascii;
+  if (has_press) {
+    Integer key_ascii = press_ascii;
     form_->RaiseKeyPress(key_ascii);
   }
   return true;
