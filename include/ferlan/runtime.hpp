@@ -99,6 +99,10 @@ String Right(StringView s, Long n);
 // From position `start` (1-based) to the end; start < 1 is an invalid call.
 String Mid(StringView s, Long start);
 String Mid(StringView s, Long start, Long length);
+// The same parts as Left and Mid, with the same checks, seen in place: for a
+// caller that copies them into a string it keeps.
+StringView LeftView(StringView s, Long n);
+StringView MidView(StringView s, Long start, Long length);
 // Mid statement: overwrite from `start` with at most `length` characters of
 // `with`, never growing `s`; start < 1 or beyond the text is an invalid call.
 void MidAssign(String& s, Long start, Long length, StringView with);

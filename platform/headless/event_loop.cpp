@@ -39,9 +39,9 @@ std::int64_t EventLoop::Step() {
     limit = kStarvationMs - empty_ms_;
   }
   const std::int64_t now = clock_.Now();
-  for (const auto& weak : timers_) {
-    if (auto timer = weak.lock(); timer && !Coalesces(*timer)) {
-      if (auto due = timer->NextDue()) limit = std::min(limit, *due - now);
+  for (const Made& made : timers_) {
+    if (!made.owner.expired() && !Coalesces(*made.timer)) {
+      if (auto due = made.timer->NextDue()) limit = std::min(limit, *due - now);
     }
   }
   // With no deadline ahead, time goes on as the caller asks for it.
@@ -59,9 +59,15 @@ void EventLoop::DropFinishedWaits() {
 bool EventLoop::DeliverOne(std::int64_t ms, bool& acted) {
   DropFinishedWaits();
   if (script_.Empty()) return false;
-  // Copied out: a handler may queue more keys and so move the front.
-  KeyItem item = script_.Front();
-  switch (item.kind) {
+  // The key's fields are copied out (not its source text): a handler may
+  // queue more keys and so move the front.
+  const KeyItem& front = script_.Front();
+  const bool has_down = front.has_down;
+  const Integer down_code = front.key_code;
+  const Integer shift = front.shift;
+  const bool has_press = front.has_press;
+  const Integer press_ascii = front.key_ascii;
+  switch (front.kind) {
     case KeyItem::Kind::Wait:
       // These milliseconds pass with no key; Step never goes past the wait.
       script_.Front().wait_ms -= static_cast<Long>(ms);
@@ -80,12 +86,12 @@ bool EventLoop::DeliverOne(std::int64_t ms, bool& acted) {
   if (!form_) return true;
   // Both events of one keystroke come inside the same DoEvents, as on the
   // platform; a handler that zeroes KeyCode does not stop the KeyPress.
-  if (item.has_down) {
-    Integer key_code = item.key_code;
-    form_->RaiseKeyDown(key_code, item.shift);
+  if (has_down) {
+    Integer key_code = down_code;
+    form_->RaiseKeyDown(key_code, shift);
   }
-  if (item.has_press) {
-    Integer key_ascii = item.key_ascii;
+  if (has_press) {
+    Integer key_ascii = press_ascii;
     form_->RaiseKeyPress(key_ascii);
   }
   return true;
@@ -94,22 +100,24 @@ bool EventLoop::DeliverOne(std::int64_t ms, bool& acted) {
 TimerRef EventLoop::CreateTimer(std::function<void()> on_tick) {
   auto timer = std::make_shared<forms::Timer>(std::move(on_tick),
                                               [&clock = clock_] { return clock.Now(); });
-  timers_.push_back(timer);
+  timers_.push_back({timer, timer.get()});
   return timer;
 }
 
 bool EventLoop::FireDueTimers() {
   // Dropped timers leave the list only outside any tick, so that the walk
   // of an outer DoEvents keeps its place when a tick runs DoEvents.
-  if (firing_depth_ == 0) std::erase_if(timers_, [](const auto& t) { return t.expired(); });
+  if (firing_depth_ == 0) std::erase_if(timers_, [](const Made& t) { return t.owner.expired(); });
   ++firing_depth_;
   bool fired = false;
   try {
     // By index: a tick may make a timer, which comes last.
     for (std::size_t i = 0; i < timers_.size(); ++i) {
-      std::shared_ptr<forms::Timer> timer = timers_[i].lock();
+      if (timers_[i].owner.expired()) continue;
       const std::int64_t now = clock_.Now();
-      if (timer && timer->Due(now)) {
+      if (!timers_[i].timer->Due(now)) continue;
+      // Held while it fires: its tick may drop the last share of it.
+      if (const std::shared_ptr<forms::Timer> timer = timers_[i].owner.lock()) {
         // The tick of a coalescing timer leaves the loop idle.
         fired = fired || !Coalesces(*timer);
         timer->Fire(now);

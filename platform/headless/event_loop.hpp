@@ -83,7 +83,14 @@ class EventLoop final : public forms::EventLoop {
   std::shared_ptr<forms::Form> form_;
   std::function<void(Boolean)> write_abandon_;
   std::function<bool()> caller_idle_;
-  std::vector<std::weak_ptr<forms::Timer>> timers_;
+  // Each timer made, not owned, with its address: one thread runs the loop,
+  // so a timer not expired can be looked at through it without taking a
+  // share; a share is taken only while it fires.
+  struct Made {
+    std::weak_ptr<forms::Timer> owner;
+    forms::Timer* timer = nullptr;
+  };
+  std::vector<Made> timers_;
   std::int64_t empty_ms_ = 0;
   std::int64_t calls_ = 0;
   bool starved_ = false;

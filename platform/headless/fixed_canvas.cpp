@@ -20,17 +20,6 @@ bool Inside(const DrawOp& op, Single left, Single top, Single right, Single bott
          std::min(op.y1, op.y2) >= top && std::max(op.y1, op.y2) <= bottom;
 }
 
-DrawOp Shape(DrawOp::Kind kind, Single x1, Single y1, Single x2, Single y2, Long colour) {
-  DrawOp op;
-  op.kind = kind;
-  op.x1 = x1;
-  op.y1 = y1;
-  op.x2 = x2;
-  op.y2 = y2;
-  op.colour = colour;
-  return op;
-}
-
 }  // namespace
 
 std::string Describe(const DrawOp& op) {
@@ -67,6 +56,7 @@ void FixedCanvas::Resize(Single width, Single height) {
 
 void FixedCanvas::Clear(Long colour) {
   background_ = colour;
+  Compact();
   for (DrawOp& op : ops_) Spare(op);
   ops_.clear();
   Reindex();
@@ -80,61 +70,45 @@ void FixedCanvas::FillBox(Single x1, Single y1, Single x2, Single y2, Long colou
   const Single right = std::max(x1, x2);
   const Single top = std::min(y1, y2);
   const Single bottom = std::max(y1, y2);
-  covered_.clear();
   // With a NaN top, lower_bound starts at the first edge; nothing passes
   // Inside then.
   for (auto edge = by_bottom_.lower_bound(top); edge != by_bottom_.end() && edge->first <= bottom;
        ++edge) {
     std::erase_if(edge->second, [&](std::uint64_t id) {
-      const auto at = static_cast<std::size_t>(
-          std::lower_bound(ids_.begin(), ids_.end(), id) - ids_.begin());
+      const std::size_t at = Place(id);
       if (!Inside(ops_[at], left, top, right, bottom)) return false;
-      covered_.push_back(at);
+      Spare(ops_[at]);
+      gone_.push_back(at);
       return true;
     });
   }
-  if (!covered_.empty()) {
-    std::sort(covered_.begin(), covered_.end());
-    for (const std::size_t at : covered_) Spare(ops_[at]);
-    covered_.push_back(ops_.size());
-    // Each run of kept items between covered ones moves down at once.
-    std::size_t kept = covered_.front();
-    for (std::size_t i = 0; i + 1 < covered_.size(); ++i) {
-      const auto from = static_cast<std::ptrdiff_t>(covered_[i] + 1);
-      const auto to = static_cast<std::ptrdiff_t>(covered_[i + 1]);
-      const auto at = static_cast<std::ptrdiff_t>(kept);
-      std::move(ops_.begin() + from, ops_.begin() + to, ops_.begin() + at);
-      std::move(ids_.begin() + from, ids_.begin() + to, ids_.begin() + at);
-      kept += static_cast<std::size_t>(to - from);
-    }
-    ops_.erase(ops_.begin() + static_cast<std::ptrdiff_t>(kept), ops_.end());
-    ids_.erase(ids_.begin() + static_cast<std::ptrdiff_t>(kept), ids_.end());
-  }
-  Add(Shape(DrawOp::Kind::FillBox, x1, y1, x2, y2, colour));
+  AddShape(DrawOp::Kind::FillBox, x1, y1, x2, y2, colour);
 }
 
 void FixedCanvas::Box(Single x1, Single y1, Single x2, Single y2, Long colour) {
-  Add(Shape(DrawOp::Kind::Box, x1, y1, x2, y2, colour));
+  AddShape(DrawOp::Kind::Box, x1, y1, x2, y2, colour);
 }
 
 void FixedCanvas::Line(Single x1, Single y1, Single x2, Single y2, Long colour) {
-  Add(Shape(DrawOp::Kind::Line, x1, y1, x2, y2, colour));
+  AddShape(DrawOp::Kind::Line, x1, y1, x2, y2, colour);
 }
 
 void FixedCanvas::Text(Single x, Single y, StringView text, const forms::FontSpec& font,
                        Long colour) {
-  DrawOp op = Shape(DrawOp::Kind::Text, x, y, x + TextWidth(text, font),
-                    y + TextHeight(text, font), colour);
+  // Made in its place in the list, then indexed.
+  DrawOp& op = Append(DrawOp::Kind::Text, x, y, x + TextWidth(text, font),
+                      y + TextHeight(text, font), colour);
   if (!spare_texts_.empty()) {
     op.text = std::move(spare_texts_.back());
     spare_texts_.pop_back();
   }
   op.text.assign(text);
   op.font = font;
-  Add(std::move(op));
+  Added();
 }
 
 PictureRef FixedCanvas::Snapshot() {
+  Compact();
   return std::make_shared<DisplayListPicture>(width_, height_, background_, ops_);
 }
 
@@ -143,16 +117,17 @@ void FixedCanvas::Paint(const Picture& picture, Single x, Single y) {
   const Single bottom = y + picture.Height();
   const auto* list = dynamic_cast<const DisplayListPicture*>(&picture);
   if (!list) {
-    Add(Shape(DrawOp::Kind::Picture, x, y, right, bottom, 0));
+    AddShape(DrawOp::Kind::Picture, x, y, right, bottom, 0);
     return;
   }
   if (x == 0 && y == 0 && right >= width_ && bottom >= height_) {
     background_ = list->Background();
+    gone_.clear();
     ops_ = list->Ops();
     Reindex();
     return;
   }
-  Add(Shape(DrawOp::Kind::FillBox, x, y, right, bottom, list->Background()));
+  AddShape(DrawOp::Kind::FillBox, x, y, right, bottom, list->Background());
   for (DrawOp op : list->Ops()) {
     op.x1 += x;
     op.x2 += x;
@@ -162,10 +137,33 @@ void FixedCanvas::Paint(const Picture& picture, Single x, Single y) {
   }
 }
 
+DrawOp& FixedCanvas::Append(DrawOp::Kind kind, Single x1, Single y1, Single x2, Single y2,
+                            Long colour) {
+  DrawOp& op = ops_.emplace_back();
+  op.kind = kind;
+  op.x1 = x1;
+  op.y1 = y1;
+  op.x2 = x2;
+  op.y2 = y2;
+  op.colour = colour;
+  return op;
+}
+
+void FixedCanvas::AddShape(DrawOp::Kind kind, Single x1, Single y1, Single x2, Single y2,
+                           Long colour) {
+  Append(kind, x1, y1, x2, y2, colour);
+  Added();
+}
+
 void FixedCanvas::Add(DrawOp op) {
   ops_.push_back(std::move(op));
+  Added();
+}
+
+void FixedCanvas::Added() {
   // Trimmed by a quarter at a time, so that each item costs a constant share.
-  if (ops_.size() > kOpsLimit + kOpsLimit / 4) {
+  if (Live() > kOpsLimit + kOpsLimit / 4) {
+    Compact();
     const std::size_t excess = ops_.size() - kOpsLimit;
     ops_.erase(ops_.begin(), ops_.begin() + static_cast<std::ptrdiff_t>(excess));
     dropped_ += excess;
@@ -173,9 +171,12 @@ void FixedCanvas::Add(DrawOp op) {
     return;
   }
   Index(ops_.back());
+  // The covered items wait at most as many as the visible ones (or a batch),
+  // so that the list stays as long as what can be seen, give or take.
+  if (gone_.size() > kGoneBatch && gone_.size() > Live()) Compact();
   // Emptied edges are swept when they are many; an edge used again at once
   // (a box drawn again where it was) keeps its room meanwhile.
-  if (by_bottom_.size() > ops_.size() + 64) {
+  if (by_bottom_.size() > Live() + 64) {
     std::erase_if(by_bottom_, [](const auto& edge) { return edge.second.empty(); });
   }
 }
@@ -197,11 +198,41 @@ void FixedCanvas::Spare(DrawOp& op) {
 
 void FixedCanvas::Reindex() {
   ids_.clear();
+  consecutive_from_ = 0;
   by_bottom_.clear();
   for (const DrawOp& op : ops_) Index(op);
 }
 
+void FixedCanvas::Compact() const {
+  if (gone_.empty()) return;
+  std::sort(gone_.begin(), gone_.end());
+  gone_.push_back(ops_.size());
+  // Each run of kept items between covered ones moves down at once.
+  std::size_t kept = gone_.front();
+  for (std::size_t i = 0; i + 1 < gone_.size(); ++i) {
+    const auto from = static_cast<std::ptrdiff_t>(gone_[i] + 1);
+    const auto to = static_cast<std::ptrdiff_t>(gone_[i + 1]);
+    const auto at = static_cast<std::ptrdiff_t>(kept);
+    std::move(ops_.begin() + from, ops_.begin() + to, ops_.begin() + at);
+    std::move(ids_.begin() + from, ids_.begin() + to, ids_.begin() + at);
+    kept += static_cast<std::size_t>(to - from);
+  }
+  ops_.erase(ops_.begin() + static_cast<std::ptrdiff_t>(kept), ops_.end());
+  ids_.erase(ids_.begin() + static_cast<std::ptrdiff_t>(kept), ids_.end());
+  gone_.clear();
+  consecutive_from_ = ids_.size();
+}
+
+std::size_t FixedCanvas::Place(std::uint64_t id) const {
+  if (consecutive_from_ < ids_.size() && id >= ids_[consecutive_from_]) {
+    return consecutive_from_ + static_cast<std::size_t>(id - ids_[consecutive_from_]);
+  }
+  const auto end = ids_.begin() + static_cast<std::ptrdiff_t>(consecutive_from_);
+  return static_cast<std::size_t>(std::lower_bound(ids_.begin(), end, id) - ids_.begin());
+}
+
 std::string FixedCanvas::DescribeOps() const {
+  Compact();
   std::string text;
   for (const DrawOp& op : ops_) text += Describe(op) + "\n";
   return text;

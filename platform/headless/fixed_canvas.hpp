@@ -84,7 +84,10 @@ class FixedCanvas final : public forms::Canvas {
   Single Width() const { return width_; }
   Single Height() const { return height_; }
   Long Background() const { return background_; }
-  const std::vector<DrawOp>& Ops() const { return ops_; }
+  const std::vector<DrawOp>& Ops() const {
+    Compact();
+    return ops_;
+  }
   // Items forgotten over the limit since the last Clear.
   std::size_t Dropped() const { return dropped_; }
   // The list, one Describe line each, each ending in a newline.
@@ -92,20 +95,40 @@ class FixedCanvas final : public forms::Canvas {
 
  private:
   void Add(DrawOp op);
+  void AddShape(DrawOp::Kind kind, Single x1, Single y1, Single x2, Single y2, Long colour);
+  // The item goes at the end of the list; Added then indexes it and keeps
+  // the list within its limit.
+  DrawOp& Append(DrawOp::Kind kind, Single x1, Single y1, Single x2, Single y2, Long colour);
+  void Added();
   // The index of bottoms made again from ops_ (after it is replaced or cut).
   void Reindex();
   void Index(const DrawOp& op);
   // Keeps the text of an item that leaves the list for a text to come.
   void Spare(DrawOp& op);
+  // Takes the covered items out of the list at once (see gone_).
+  void Compact() const;
+  std::size_t Live() const { return ops_.size() - gone_.size(); }
+  // The place in ops_ of the item numbered `id`, which is there.
+  std::size_t Place(std::uint64_t id) const;
 
   Single width_ = 0;
   Single height_ = 0;
   Long background_ = 0;
-  std::vector<DrawOp> ops_;
+  // Mutable: the list is compacted when it is read (see gone_).
+  mutable std::vector<DrawOp> ops_;
   std::size_t dropped_ = 0;
   // Each item of ops_ has a number, rising in the order of the list, so that
   // the index below outlives the moves of items inside ops_.
-  std::vector<std::uint64_t> ids_;
+  mutable std::vector<std::uint64_t> ids_;
+  // From this place on, the numbers follow each other without a gap (items
+  // added since the list last moved): a number gives its place at once.
+  mutable std::size_t consecutive_from_ = 0;
+  // Places in ops_ of covered items not yet taken out. A covered item leaves
+  // the index at once but stays in ops_ until the list is read, cut or
+  // cleared, or until the covered ones are many: the items after it then
+  // move down once for many boxes, not at each box.
+  mutable std::vector<std::size_t> gone_;
+  static constexpr std::size_t kGoneBatch = 256;
   std::uint64_t next_id_ = 0;
   // The numbers of the items by their lower edge. An item covered by a box
   // has its lower edge between the box's top and bottom, so a filled box
@@ -113,7 +136,6 @@ class FixedCanvas final : public forms::Canvas {
   // edge is never covered and not indexed. Emptied edges stay until
   // there are many (see Add).
   std::map<Single, std::vector<std::uint64_t>> by_bottom_;
-  std::vector<std::size_t> covered_;  // scratch of FillBox
   // Texts of items gone, whose room the next texts take: drawing a text
   // then costs no allocation. At most kSpareTexts, none over kSpareRoom.
   static constexpr std::size_t kSpareTexts = 256;

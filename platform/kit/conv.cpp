@@ -1,5 +1,6 @@
 #include "kit/conv.hpp"
 
+#include <charconv>
 #include <cmath>
 #include <string>
 
@@ -31,9 +32,13 @@ String Conv::Cadre(String S, Integer L, Integer /*N*/) {
 String Conv::Elague(String S) { return RTrim(S); }
 
 String Conv::EntierTexte(Long V, Integer L) {
-  const std::string digits = std::to_string(V);
-  String text(digits.begin(), digits.end());
-  if (Len(text) < L) text.insert(0, Space(L - Len(text)));
+  // The blanks first, then the digits: one string made, no copy.
+  char digits[16];
+  const char* const end = std::to_chars(digits, digits + sizeof digits, V).ptr;
+  const Long count = static_cast<Long>(end - digits);
+  String text;
+  if (count < L) text = Space(L - count);
+  text.append(static_cast<const char*>(digits), end);
   return text;
 }
 

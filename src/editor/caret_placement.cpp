@@ -21,7 +21,8 @@ void PlaceAndStartCaret(EditState& e) {
   if (car_caret == u" ") car_caret = u"A";
   // Left: CT and the text left of the caret; Single + Single stays Single
   // before the rounding.
-  const Single left_of_caret = ky.LargeurTexte(Left(e.TexteVu, SubInt(SubInt(e.P, 1), e.Decal)));
+  e.LeftOfCaret.assign(LeftView(e.TexteVu, SubInt(SubInt(e.P, 1), e.Decal)));
+  const Single left_of_caret = ky.LargeurTexte(e.LeftOfCaret);
   st.PosCaretX = CLng(static_cast<Single>(e.CT + left_of_caret));
   // On another surface, its place and CaretX; Long + Single is worked in
   // Double.

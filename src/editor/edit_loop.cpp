@@ -114,7 +114,8 @@ void DrawField(EditState& e) {
     String bullets;
     if (e.IMS == u"I") bullets = Bullets(Len(Trim(e.CH)));
     const String& source = e.IMS == u"I" ? bullets : e.CH;
-    e.TexteVu = Mid(source, AddInt(e.Decal, 1), e.NbVis);
+    // Copied into the room TexteVu already has.
+    e.TexteVu.assign(MidView(source, AddInt(e.Decal, 1), e.NbVis));
     ky.AfficheT(CLng(e.LT), e.CT, e.Coul, e.TexteVu);
   });
 }

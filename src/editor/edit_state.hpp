@@ -43,6 +43,7 @@ struct EditState {
   String R{};        // character of the last key; the repeat key's default
   Integer Code = 0;  // control key of the last key, 0 for a character
   String TexteVu{};  // the part of the text now on the surface
+  String LeftOfCaret{};  // TexteVu left of the caret, measured; its room is kept
   Boolean AvecSubst = false;
   PictureBoxRef ZoneGardee{};  // Env.ZoneAff on entry, when AvecSubst
 };

@@ -46,10 +46,12 @@ bool TooLargeForDouble(std::string_view number) {
 
 Long Len(StringView s) { return static_cast<Long>(s.size()); }
 
-String Left(StringView s, Long n) {
+StringView LeftView(StringView s, Long n) {
   if (n < 0) throw PlatformError::InvalidCall("Left with a negative length");
-  return String(s.substr(0, static_cast<std::size_t>(n)));
+  return s.substr(0, static_cast<std::size_t>(n));
 }
+
+String Left(StringView s, Long n) { return String(LeftView(s, n)); }
 
 String Right(StringView s, Long n) {
   if (n < 0) throw PlatformError::InvalidCall("Right with a negative length");
@@ -63,13 +65,15 @@ String Mid(StringView s, Long start) {
   return String(s.substr(static_cast<std::size_t>(start - 1)));
 }
 
-String Mid(StringView s, Long start, Long length) {
+StringView MidView(StringView s, Long start, Long length) {
   if (length < 0) throw PlatformError::InvalidCall("Mid with a negative length");
   if (start < 1) throw PlatformError::InvalidCall("Mid from a position below 1");
   // The part taken straight from s, without a copy of the rest first.
   if (static_cast<std::size_t>(start) > s.size()) return {};
-  return String(s.substr(static_cast<std::size_t>(start - 1), static_cast<std::size_t>(length)));
+  return s.substr(static_cast<std::size_t>(start - 1), static_cast<std::size_t>(length));
 }
+
+String Mid(StringView s, Long start, Long length) { return String(MidView(s, start, length)); }
 
 void MidAssign(String& s, Long start, Long length, StringView with) {
   if (start < 1 || static_cast<std::size_t>(start) > s.size() || length < 0) {

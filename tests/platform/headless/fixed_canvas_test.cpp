@@ -48,6 +48,22 @@ TEST(FixedCanvasTest, KeepsWhatWasDrawnSinceTheLastClearLessWhatAFillCovers) {
   EXPECT_EQ(canvas.Dropped(), 0u);
 }
 
+TEST(FixedCanvasTest, ManyFillsOverEachOtherLeaveOnlyTheLastBesideTheTexts) {
+  // More covered items than the canvas holds back at once: the list, read
+  // at any point, is what can still be seen, in the order drawn.
+  FixedCanvas canvas;
+  for (int i = 0; i < 1000; ++i) {
+    canvas.FillBox(0, 0, 105, 195, i);
+    canvas.Box(0, 0, 105, 100, i);
+    canvas.Text(0, 0, u"ab", forms::FontSpec{10, false}, i);  // 0..210: never covered
+    if (i == 500) {
+      EXPECT_EQ(canvas.Ops().size(), 503u);
+    }
+  }
+  canvas.FillBox(0, 0, 210, 195, 7);
+  EXPECT_EQ(canvas.DescribeOps(), "FillBox 0 0 210 195 7\n");
+}
+
 TEST(FixedCanvasTest, SnapshotPaintsBackItsListOrElsewhereItsBox) {
   FixedCanvas canvas;
   canvas.Resize(300, 200);
