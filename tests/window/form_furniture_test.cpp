@@ -71,6 +71,10 @@ TEST_F(MessageZoneTest, EffaceZoneMessageOnlyHidesTheZone) {
   Json hidden = shown;
   hidden[2] = false;
   EXPECT_EQ(Place(), hidden);
+  // A picture control passed for the picture gives its own Picture.
+  Ok(R"({"new":{"name":"box","kind":"PictureBox"}})");
+  Ok(R"({"call":"AfficheZoneMessage","args":[{"obj":"box"}]})");
+  EXPECT_EQ(Get("zoneMessage.Visible"), true);
 }
 
 class MessageZonePictureTest : public SessionTest {};
