@@ -1,5 +1,5 @@
 // DecodeType and CodeType against the kit's Conv and Erreur: families, decimals,
-// the two error channels, yes/no, and stored forms that come back whole.
+// the two error channels, yes/no, and the stored forms of numbers.
 #include <gtest/gtest.h>
 
 #include <tuple>
@@ -87,23 +87,6 @@ TEST_F(TypeCodeTest, CodingPacksNumbersAndKeepsTexts) {
   EXPECT_TRUE(session.Records().reports.empty());
   String m = u"32768";
   ExpectPlatformError([&] { KySaisie{}.CodeType(m, u"I", -1); }, 6);
-}
-
-// Values whose packed form holds zero bytes, or bytes above 127, must come
-// back whole: a stored form is binary, not a C string.
-TEST_F(TypeCodeTest, StoredFormsComeBackThroughDecodeType) {
-  const std::pair<String, std::vector<String>> cases[] = {
-      {u"I0", {u"0", u"256", u"-32767"}}, {u"I2", {u"12.00"}},  {u"S2", {u"1.50", u"-2.00"}},
-      {u"D2", {u"100.00", u"9999999999999.99"}}, {u"D4", {u"-1234.5678"}}};
-  for (const auto& [typ, values] : cases) {
-    for (const String& shown : values) {
-      const Decoded family = Decode(u"", typ);  // for the letter and NB
-      String stored = shown;
-      KySaisie{}.CodeType(stored, family.typ, family.nb);
-      EXPECT_EQ(Decode(stored, typ).c, shown)
-          << ToUtf8(typ) << " stored as " << ::testing::PrintToString(stored);
-    }
-  }
 }
 
 }  // namespace

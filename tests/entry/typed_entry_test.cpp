@@ -67,13 +67,6 @@ TEST_F(TypedEntryTest, DatesAreEmptyOrValidAndGiveTheirSortNumber) {
   EXPECT_THAT(TakeLog(), ::testing::EndsWith("Texte 525 624 \"01/02/2003\" 0\n"));
 }
 
-TEST_F(TypedEntryTest, YesNoStoresOneLetter) {
-  EXPECT_EQ(Enter(u"N", u"B", "o").m, u"O");
-  EXPECT_EQ(Enter(u"O", u"B", "N").m, u"N");
-  EXPECT_EQ(Enter(u"N", u"B", "x{Enter}o").m, u"O");                    // x answers nothing
-  EXPECT_EQ(Enter(u"N", u"B", "x{Down}"), (EntryResult{u"N", 40, 0}));  // the old answer
-}
-
 // Abandon ends the entry with the value exactly as stored on entry and TR 0,
 // whatever stood in the field; so does a key script that ran dry for 10 s.
 TEST_F(TypedEntryTest, AbandonGivesTheStoredValueBackWithTrZero) {

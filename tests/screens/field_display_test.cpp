@@ -15,7 +15,6 @@
 namespace ferlan::testing {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
@@ -121,13 +120,6 @@ TEST_F(FieldDisplayTest, PictureUnderTheFieldMovesTheControl) {
   ExpectPlatformError([&] { KySaisie{}.ImageAD(u"NOM", session.NewPictureBox()); }, 91);
   EXPECT_THAT(TakeLog(), StartsWith("EffaceRect 5250 936 "));
   ExpectPlatformError([&] { KySaisie{}.ImageSD(u"NOM", nullptr); }, 91);
-}
-
-// An unknown identifier is reported, then record 0 (line 0, X 0) is used.
-TEST_F(FieldDisplayTest, UnknownIdentifierGoesOnWithRecordZero) {
-  KySaisie{}.MesSD(u"nom", u"N", u"x");
-  EXPECT_THAT(TakeReports(), ElementsAre("RechRub: Code Rubrique Inconnu @<nom>@"));
-  EXPECT_THAT(TakeLog(), HasSubstr("Texte 0 312 \"x\""));
 }
 
 }  // namespace

@@ -179,34 +179,20 @@ TEST_F(EventLoopTest, OneMsTimerCoalescesYetSeesEveryChangeAtItsTime) {
   EXPECT_LE(skipped_calls, 3 * 200 + 3);
 }
 
-TEST_F(EventLoopTest, MaximalWaitsTakeAFewCallsAndStarvationStaysAtTenSeconds) {
+// Maximal waits through Saisie and virtual keys at 1 ms a poll are the key
+// pipeline's; here, starvation still comes after exactly ten seconds.
+TEST_F(EventLoopTest, StarvationStaysAtTenSecondsWhileIdleTimeIsSkipped) {
   loop.SetIdleSkipping([] { return true; });
-  script.Append("{wait:2147483647}{wait:2147483647}a");
-  while (events.empty()) loop.DoEvents();
-  EXPECT_EQ(events, "D65,0@4294967295 P97@4294967295 ");
-  EXPECT_LE(loop.Calls(), 6);
-
-  // A timer set to the 9,999th ms of an empty script sees no starvation yet.
-  events.clear();
   loop.BeginCall();
+  // A timer set to the 9,999th ms of an empty script sees no starvation yet.
   bool starved_at_9999 = true;
   TimerRef probe = loop.CreateTimer([&] { starved_at_9999 = loop.Starved(); });
   probe->SetEnabled(true);
   probe->SetInterval(9999);
-  const std::int64_t start = clock.Now();
   while (!loop.Starved()) loop.DoEvents();
-  probe->SetEnabled(false);
   EXPECT_FALSE(starved_at_9999);
-  EXPECT_EQ(clock.Now() - start, 10000);
-  EXPECT_LE(loop.Calls(), 12);
-
-  // A caller with virtual keys to read gets 1 ms a call.
-  loop.SetIdleSkipping([] { return false; });
-  script.Append("{wait:50}");
-  const std::int64_t calls = loop.Calls();
-  for (int i = 0; i < 5; ++i) loop.DoEvents();
-  EXPECT_EQ(loop.Calls() - calls, 5);
-  EXPECT_EQ(clock.Now() - start, 10005);
+  EXPECT_EQ(clock.Now(), 10000);
+  EXPECT_LE(loop.Calls(), 6);
 }
 
 // Key scripts: what each item types on a US keyboard, and the scripts refused.

@@ -12,23 +12,6 @@ namespace {
 
 using HeadlessSessionTest = SessionTest;
 
-TEST_F(HeadlessSessionTest, AssemblesTheDefaultHost) {
-  for (const char* name : {"BarreOutils", "Caret", "zoneMessage"}) {
-    auto control = std::dynamic_pointer_cast<Control>(Form().Member(name));
-    ASSERT_TRUE(control && !control->Visible()) << name;
-  }
-  auto clavier = Form().Member("ClavierKY");
-  EXPECT_FALSE(VariantToBoolean(clavier->GetProperty("Interception")));
-  clavier->SetProperty("Interception", true);
-  EXPECT_TRUE(VariantToBoolean(clavier->GetProperty("Interception")));
-  // The surface fills the form's inner area within a single border; every
-  // picture box measures in fixed metrics.
-  EXPECT_FLOAT_EQ(Zone().Width(), Form().ScaleWidth());
-  EXPECT_FLOAT_EQ(Zone().ScaleWidth(), Zone().Width() - 60);
-  EXPECT_FLOAT_EQ(Zone().TextHeight(u" "), 195);
-  EXPECT_FLOAT_EQ(session.NewPictureBox()->TextWidth(u"T"), 105);
-}
-
 // A long session must stay flat: what the host keeps (display list, drawing
 // log, reports) is measured by counts after many rounds of typing.
 TEST_F(HeadlessSessionTest, WhatTheHostKeepsStopsGrowing) {

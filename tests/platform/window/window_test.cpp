@@ -10,6 +10,8 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <fstream>
+#include <iterator>
 #include <thread>
 
 #include "ferlan/kysaisie.hpp"
@@ -51,6 +53,11 @@ TimerRef Once(headless::Session& session, Long after_ms, std::function<void()> o
   timer->SetEnabled(true);
   timer->SetInterval(after_ms);
   return timer;
+}
+
+std::string ReadFile(const std::string& path) {
+  std::ifstream in(path);
+  return {std::istreambuf_iterator<char>(in), {}};
 }
 
 int Ink(std::uint32_t pixel, std::uint32_t ground) {
@@ -160,59 +167,6 @@ TEST_F(WindowTest, APersonTypesAFieldAndTheWindowShowsIt) {
   EXPECT_NEAR(ink_right, left + text_width, 4);
 }
 
-// A field on the host's own picture control, a substitute surface placed on
-// the surface: typed in the real window, it shows there, pixel for pixel as
-// the PNG composes it.
-TEST_F(WindowTest, AFieldOnASubstituteSurfaceShowsInTheWindow) {
-  window::Window window("Ferlan test");
-  auto session = window.OpenSession();
-  KySaisie k;
-  k.InitKyF();
-  k.DimensionFeuille(12, 60);
-  auto subst = session->NewPictureBox();
-  subst->SetLeft(1500);
-  subst->SetTop(2400);
-  subst->SetWidth(4500);
-  subst->SetHeight(600);
-  constexpr Long kPale = 0x00C0FFFF;  // a pale yellow, 0x00BBGGRR
-  subst->SetBackColor(kPale);
-  subst->GetCanvas().Clear(kPale);
-  Settle(window);
-  const unsigned long id = window.NativeHandle();
-  std::thread typist;
-  TimerRef start = Once(*session, 50, [&] {
-    typist = Typist(id, {"type --delay 30 'Abc'", "key F2"});
-  });
-  TimerRef guard = Once(*session, 20000, [&] { session->Env().Abandon = true; });
-  String m;
-  Integer tr = 0;
-  k.ModDT(m, u"A", 60, 1, 60, 20, tr, 0, 0, u"F", nullptr, u"[]", u"B", subst);
-  typist.join();
-  ASSERT_FALSE(session->Env().Abandon) << "the keys did not reach the field within 20 s";
-  EXPECT_EQ(m, u"Abc");
-
-  Settle(window);
-  int width = 0, height = 0;
-  const std::vector<std::uint32_t> shot = Screenshot(id, width, height);
-  PictureBox& surface = *session->Env().surface;
-  EXPECT_EQ(DifferingPixels(shot, width, height, *raster::ComposeForm(session->Form(), &surface)),
-            0);
-  // The control shows at its place on the surface, the text inked on it.
-  const raster::PixelRect at = raster::ChildRect(*subst, surface);
-  ASSERT_EQ(at.w, 300);
-  const std::uint32_t pale = raster::WordOfColour(kPale);
-  int ground = 0, ink = 0;
-  for (int y = at.y; y < at.y + at.h; ++y) {
-    for (int x = at.x; x < at.x + at.w; ++x) {
-      const std::uint32_t p = shot[static_cast<std::size_t>(y) * width + x];
-      ground += p == pale;
-      ink += Ink(p, pale) > 200;
-    }
-  }
-  EXPECT_GT(ground, at.w * at.h / 2);
-  EXPECT_GT(ink, 20);
-}
-
 TEST_F(WindowTest, ClosingTheWindowAbandonsTheWaitAndTheSession) {
   window::Window window("Ferlan test");
   auto session = window.OpenSession();
@@ -309,18 +263,12 @@ TEST_F(WindowTest, TheFormAndTheWindowFollowEachOther) {
 // answers on standard output, and closing the window ends it.
 TEST_F(WindowTest, RunPlaysASessionInAWindow) {
   const std::string file = ::testing::TempDir() + "ferlan_run_test.jsonl";
-  {
-    std::FILE* f = std::fopen(file.c_str(), "w");
-    ASSERT_NE(f, nullptr);
-    std::fputs(R"({"call":"InitKyF"}
+  std::ofstream(file) << R"({"call":"InitKyF"}
 {"call":"DimensionFeuille","args":[12,60]}
 {"keys":"Caf\u00e9{Enter}"}
 {"call":"ModD","args":["","A",3,12,1260,20,0]}
 {"get":["Form.Caption"]}
-)",
-               f);
-    std::fclose(f);
-  }
+)";
   const std::string out = ::testing::TempDir() + "ferlan_run_test.out";
   std::thread closer([&] {
     // The window stays up once the requests are played, until it closes.
@@ -339,12 +287,7 @@ TEST_F(WindowTest, RunPlaysASessionInAWindow) {
   const int status = std::system((std::string(FERLAN_CLI) + " run " + file + " > " + out).c_str());
   closer.join();
   EXPECT_EQ(WEXITSTATUS(status), 0);
-  std::FILE* f = std::fopen(out.c_str(), "r");
-  ASSERT_NE(f, nullptr);
-  std::string answers;
-  char buffer[4096];
-  while (std::fgets(buffer, sizeof buffer, f) != nullptr) answers += buffer;
-  std::fclose(f);
+  const std::string answers = ReadFile(out);
   EXPECT_EQ(std::count(answers.begin(), answers.end(), '\n'), 5) << answers;
   EXPECT_NE(answers.find(R"("args":["Café","A",3,12,1260,20,13])"), std::string::npos) << answers;
 
@@ -355,11 +298,7 @@ TEST_F(WindowTest, RunPlaysASessionInAWindow) {
                    " > " + out + " 2> " + err)
                       .c_str());
   EXPECT_EQ(WEXITSTATUS(no_display), 2);
-  f = std::fopen(err.c_str(), "r");
-  ASSERT_NE(f, nullptr);
-  std::string message;
-  while (std::fgets(buffer, sizeof buffer, f) != nullptr) message += buffer;
-  std::fclose(f);
+  const std::string message = ReadFile(err);
   EXPECT_EQ(message.rfind("ferlan: no display", 0), 0u) << message;
   EXPECT_EQ(std::count(message.begin(), message.end(), '\n'), 1) << message;
 }
