@@ -3,6 +3,8 @@
 // pass per key (scroll, status, draw, wait, command), then the end. The
 // commands are in key_commands.cpp, the field kinds in date_rules.cpp and
 // yes_no_rules.cpp, the caret in caret_form.cpp.
+#include <string>
+
 #include "component/module_state.hpp"
 #include "editor/caret_form.hpp"
 #include "editor/caret_placement.hpp"
@@ -48,6 +50,13 @@ void SetUp(EditState& e) {
   } else {
     e.LC = e.LCM;
     e.CMax = ky.NbCol();
+  }
+  // A date field of 3 or 6 characters ends on a separator, which would type
+  // itself there again and again without a key ever being read: the caller
+  // owes a date field at least 7 characters, and is told so.
+  if (IsDateField(e) && (e.LC == 3 || e.LC == 6)) {
+    throw PlatformError::InvalidCall("a date field of " + std::to_string(e.LC) +
+                                     " characters ends on its separator");
   }
   ChooseCaretPicture(e.st);
   // LongUtile also takes the trailing blanks off CH.

@@ -158,6 +158,14 @@ TEST_F(KeyCommandTest, FormatDateWritesBothSeparatorsOnlyForD) {
   ExpectPlatformError([&] { KySaisie{}.FormatDate(ch, u"D"); }, 5);
 }
 
+// A date field ending on a separator would loop without reading a key.
+TEST_F(KeyCommandTest, DateFieldEndingOnItsSeparatorIsRefused) {
+  for (Integer lcm : {3, 6}) {
+    ExpectPlatformError([&] { Edit({u"", lcm, u"D"}, ""); }, 5);
+  }
+  EXPECT_EQ(Edit({u"", 4, u"D"}, "123{Enter}").ch, u"12/3");
+}
+
 TEST_F(KeyCommandTest, CopyTakesTheTrimmedRestAndShowsItUntrimmed) {
   session.SetClipboardText(u"old");
   EXPECT_EQ(Edit(At(u"abc def  ", 4, 9), "{Ctrl+C}{Enter}"), (Outcome{u"abc def", 13, 4}));
