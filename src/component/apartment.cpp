@@ -6,10 +6,9 @@
 
 namespace ferlan {
 
+[[gnu::tls_model("initial-exec")]] thread_local Apartment::State* current_apartment_state = nullptr;
+
 namespace {
-// Read at nearly every call: the initial-exec model reaches it without a call
-// to the dynamic loader, at the cost of one pointer of static TLS.
-[[gnu::tls_model("initial-exec")]] thread_local Apartment::State* current_state = nullptr;
 // The state of a thread that calls before making an apartment of its own.
 thread_local std::unique_ptr<Apartment::State> default_state;
 }  // namespace
@@ -18,40 +17,29 @@ Apartment::State::State(ClassRegistry reg) : registry(std::move(reg)) {}
 Apartment::State::~State() = default;
 
 Apartment::Apartment(ClassRegistry registry)
-    : state_(std::make_unique<State>(std::move(registry))), previous_(current_state) {
-  current_state = state_.get();
+    : state_(std::make_unique<State>(std::move(registry))), previous_(current_apartment_state) {
+  current_apartment_state = state_.get();
 }
 
 Apartment::~Apartment() {
   // Apartments nest: the one that ends is the innermost, current one.
-  FERLAN_ASSERT(current_state == state_.get());
-  current_state = previous_;
+  FERLAN_ASSERT(current_apartment_state == state_.get());
+  current_apartment_state = previous_;
 }
 
 bool Apartment::VirtualKeysPending() const { return state_->ClavierTampon != u"[]"; }
 
-ModuleState& State() {
-  if (current_state) return *current_state;
+ModuleState& DefaultState() {
   if (!default_state) default_state = std::make_unique<Apartment::State>(ClassRegistry{});
   return *default_state;
 }
 
-Form& CurrentForm(ModuleState& st) {
-  Form* form = st.Env->KyFView();
-  if (!form) throw PlatformError::ObjectNotSet();
-  return *form;
-}
+void ThrowObjectNotSet() { throw PlatformError::ObjectNotSet(); }
 
 PictureBoxRef CurrentZoneRef(ModuleState& st) {
   PictureBoxRef zone = st.Env->ZoneAff();
-  if (!zone) throw PlatformError::ObjectNotSet();
+  if (!zone) ThrowObjectNotSet();
   return zone;
-}
-
-PictureBox& CurrentZone(ModuleState& st) {
-  PictureBox* zone = st.Env->ZoneAffView();
-  if (!zone) throw PlatformError::ObjectNotSet();
-  return *zone;
 }
 
 }  // namespace ferlan
