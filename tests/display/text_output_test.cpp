@@ -131,16 +131,14 @@ TEST_F(TextOutputTest, EachCodeGivesItsColoursAndAnUnknownOneIsReportedByCouleur
   EXPECT_EQ(ky.CouleurFond(u"R"), 77);
 
   // Compared exactly: no accent, lower case, a trailing blank, empty.
-  const auto& reports = session.Records().reports;
   for (const char16_t* code : {u"GrisFonce", u"n", u"B ", u""}) {
     SCOPED_TRACE(ToUtf8(code));
     EXPECT_EQ(ky.CouleurFond(code), -1);
     EXPECT_EQ(ky.Couleur(code), 0);
-    ASSERT_FALSE(reports.empty());
-    EXPECT_EQ(reports.back().source, u"Couleur");
-    EXPECT_EQ(reports.back().text, String(code) + u" Code Couleur Inconnu");
+    // One report a Couleur of an unknown code, none else.
+    EXPECT_EQ(TakeReports(),
+              std::vector<std::string>{"Couleur: " + ToUtf8(code) + " Code Couleur Inconnu"});
   }
-  EXPECT_EQ(reports.size(), 4u);  // one a Couleur of an unknown code, none else
 }
 
 }  // namespace

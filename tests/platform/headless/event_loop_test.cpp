@@ -12,6 +12,11 @@
 namespace ferlan::headless {
 namespace {
 
+void Start(const TimerRef& timer, Long interval_ms) {
+  timer->SetEnabled(true);
+  timer->SetInterval(interval_ms);
+}
+
 // A loop alone with a form whose handlers note what they get and when, then
 // zero the key code as a host may (KeyPress comes all the same); its own Abandon.
 class EventLoopTest : public ::testing::Test {
@@ -75,10 +80,8 @@ TEST_F(EventLoopTest, TimersFireOnTheVirtualClockInCreationOrder) {
   TimerRef slow = loop.CreateTimer([&] { Note("slow"); });
   TimerRef fast = loop.CreateTimer([&] { Note("fast"); });
   Pump(3);  // a new timer is stopped
-  slow->SetEnabled(true);
-  slow->SetInterval(500);  // counted from now, 3
-  fast->SetEnabled(true);
-  fast->SetInterval(250);
+  Start(slow, 500);  // counted from now, 3
+  Start(fast, 250);
   Pump(500);
   fast->SetInterval(0);  // stops it
   Pump(900);
@@ -95,8 +98,7 @@ TEST_F(EventLoopTest, OneMsTimerTicksEachDoEventsWithoutReentryTillDropped) {
     ++ticks;
     loop.DoEvents();  // moves the clock but does not run this tick again
   });
-  t->SetEnabled(true);
-  t->SetInterval(1);
+  Start(t, 1);
   Pump(4);
   EXPECT_EQ(ticks, 4);
   EXPECT_EQ(clock.Now(), 8);
@@ -125,10 +127,8 @@ TEST_F(EventLoopTest, SkippingIdleTimeKeepsEveryTimeAndCount) {
       note("slow");
       if (run_clock.Now() < 9000) run_script.Append("{wait:1}s");  // a tick that types
     });
-    fast->SetEnabled(true);
-    fast->SetInterval(2500);
-    slow->SetEnabled(true);
-    slow->SetInterval(4000);
+    Start(fast, 2500);
+    Start(slow, 4000);
     run_script.Append("{wait:1234}x{wait:3000}{wait:0}y");
     while (!run_loop.Starved()) run_loop.DoEvents();
     fast->SetEnabled(false);
@@ -153,18 +153,15 @@ TEST_F(EventLoopTest, OneMsTimerCoalescesYetSeesEveryChangeAtItsTime) {
     EventLoop run_loop{run_clock, run_script};
     run_loop.SetForm(form);
     if (skip) run_loop.SetIdleSkipping([] { return true; });
-    int blinks = 0;
-    int seen = 0;
+    int blinks = 0, seen = 0;
     std::string notes;
     TimerRef blink = run_loop.CreateTimer([&] { ++blinks; });
     TimerRef follow = run_loop.CreateTimer([&] {
       if (seen != blinks) notes += std::to_string(run_clock.Now()) + " ";
       seen = blinks;
     });
-    blink->SetEnabled(true);
-    blink->SetInterval(500);
-    follow->SetEnabled(true);
-    follow->SetInterval(1);
+    Start(blink, 500);
+    Start(follow, 1);
     run_script.Append("{wait:100000}");
     while (!run_script.Empty()) run_loop.DoEvents();
     blink->SetEnabled(false);
@@ -187,8 +184,7 @@ TEST_F(EventLoopTest, StarvationStaysAtTenSecondsWhileIdleTimeIsSkipped) {
   // A timer set to the 9,999th ms of an empty script sees no starvation yet.
   bool starved_at_9999 = true;
   TimerRef probe = loop.CreateTimer([&] { starved_at_9999 = loop.Starved(); });
-  probe->SetEnabled(true);
-  probe->SetInterval(9999);
+  Start(probe, 9999);
   while (!loop.Starved()) loop.DoEvents();
   EXPECT_FALSE(starved_at_9999);
   EXPECT_EQ(clock.Now(), 10000);
@@ -246,7 +242,7 @@ TEST(KeyScriptTest, RefusesBadScriptsNamingThePlaceAndQueuesNothing) {
         [&] { KeyScript::Parse(c.first); }, 5,
         std::string("Invalid procedure call or argument: key script ") + c.second);
   }
-  KeyScript script;
+  KeyScript script;  // a refused script adds nothing to what is queued
   EXPECT_EQ(script.Append("ab{Left}"), 3u);
   EXPECT_THROW(script.Append("cd{Nope}"), PlatformError);
   EXPECT_EQ(script.Size(), 3u);
