@@ -128,9 +128,9 @@ TEST_F(FormPictureTest, HostPictureControlsShowAsChildrenOfTheSurface) {
   EXPECT_EQ(At(*Compose(), kOx + 100, kOy + 40), kWhite);
   photo->SetVisible(true);
   auto picture = Compose();
-  EXPECT_EQ(At(*picture, kOx + 100, kOy + 40), 0x00008000);
-  EXPECT_EQ(At(*picture, kOx + 103, kOy + 42), 0x00008000);
-  EXPECT_EQ(At(*picture, kOx + 104, kOy + 40), kWhite);
+  EXPECT_EQ(std::tuple(At(*picture, kOx + 100, kOy + 40), At(*picture, kOx + 103, kOy + 42),
+                       At(*picture, kOx + 104, kOy + 40)),
+            std::tuple(0x00008000, 0x00008000, kWhite));  // its corners, and right of it
   EXPECT_EQ(ChildRect(*photo, *surface), (PixelRect{kOx + 100, kOy + 40, 4, 3}));
   // Past the surface's right edge it is cut there.
   photo->SetLeft(599 * 15);
