@@ -17,6 +17,19 @@ void Start(const TimerRef& timer, Long interval_ms) {
   timer->SetInterval(interval_ms);
 }
 
+// A loop of its own on a form, skipping idle time or stepping 1 ms a call.
+struct OwnLoop {
+  OwnLoop(const std::shared_ptr<forms::Form>& form, bool skip) {
+    loop.SetForm(form);
+    if (skip) loop.SetIdleSkipping([] { return true; });
+  }
+  void Note(const std::string& what) { notes += what + "@" + std::to_string(clock.Now()) + " "; }
+  VirtualClock clock;
+  KeyScript script;
+  EventLoop loop{clock, script};
+  std::string notes;
+};
+
 // A loop alone with a form whose handlers note what they get and when, then
 // zero the key code as a host may (KeyPress comes all the same); its own Abandon.
 class EventLoopTest : public ::testing::Test {
@@ -111,29 +124,21 @@ TEST_F(EventLoopTest, OneMsTimerTicksEachDoEventsWithoutReentryTillDropped) {
 // call, for far fewer calls.
 TEST_F(EventLoopTest, SkippingIdleTimeKeepsEveryTimeAndCount) {
   const auto run = [this](bool skip) {
-    VirtualClock run_clock;
-    KeyScript run_script;
-    EventLoop run_loop{run_clock, run_script};
-    std::string notes;
-    const auto note = [&](const std::string& what) {
-      notes += what + "@" + std::to_string(run_clock.Now()) + " ";
-    };
-    form->on_key_press = [&](Integer& a) { note("P" + std::to_string(a)); };
-    run_loop.SetForm(form);
-    run_loop.SetAbandonWriter([&](Boolean v) { note(v ? "abandon" : "resume"); });
-    if (skip) run_loop.SetIdleSkipping([] { return true; });
-    TimerRef fast = run_loop.CreateTimer([&] { note("fast"); });
-    TimerRef slow = run_loop.CreateTimer([&] {
-      note("slow");
-      if (run_clock.Now() < 9000) run_script.Append("{wait:1}s");  // a tick that types
+    OwnLoop own(form, skip);
+    form->on_key_press = [&](Integer& a) { own.Note("P" + std::to_string(a)); };
+    own.loop.SetAbandonWriter([&](Boolean v) { own.Note(v ? "abandon" : "resume"); });
+    TimerRef fast = own.loop.CreateTimer([&] { own.Note("fast"); });
+    TimerRef slow = own.loop.CreateTimer([&] {
+      own.Note("slow");
+      if (own.clock.Now() < 9000) own.script.Append("{wait:1}s");  // a tick that types
     });
     Start(fast, 2500);
     Start(slow, 4000);
-    run_script.Append("{wait:1234}x{wait:3000}{wait:0}y");
-    while (!run_loop.Starved()) run_loop.DoEvents();
+    own.script.Append("{wait:1234}x{wait:3000}{wait:0}y");
+    while (!own.loop.Starved()) own.loop.DoEvents();
     fast->SetEnabled(false);
     slow->SetEnabled(false);
-    return std::make_pair(notes, run_loop.Calls());
+    return std::make_pair(own.notes, own.loop.Calls());
   };
   const auto [stepped, stepped_calls] = run(false);
   const auto [skipped, skipped_calls] = run(true);
@@ -148,25 +153,20 @@ TEST_F(EventLoopTest, SkippingIdleTimeKeepsEveryTimeAndCount) {
 // timer 1 ms after it, as with 1 ms steps.
 TEST_F(EventLoopTest, OneMsTimerCoalescesYetSeesEveryChangeAtItsTime) {
   const auto run = [this](bool skip) {
-    VirtualClock run_clock;
-    KeyScript run_script;
-    EventLoop run_loop{run_clock, run_script};
-    run_loop.SetForm(form);
-    if (skip) run_loop.SetIdleSkipping([] { return true; });
+    OwnLoop own(form, skip);
     int blinks = 0, seen = 0;
-    std::string notes;
-    TimerRef blink = run_loop.CreateTimer([&] { ++blinks; });
-    TimerRef follow = run_loop.CreateTimer([&] {
-      if (seen != blinks) notes += std::to_string(run_clock.Now()) + " ";
+    TimerRef blink = own.loop.CreateTimer([&] { ++blinks; });
+    TimerRef follow = own.loop.CreateTimer([&] {
+      if (seen != blinks) own.notes += std::to_string(own.clock.Now()) + " ";
       seen = blinks;
     });
     Start(blink, 500);
     Start(follow, 1);
-    run_script.Append("{wait:100000}");
-    while (!run_script.Empty()) run_loop.DoEvents();
+    own.script.Append("{wait:100000}");
+    while (!own.script.Empty()) own.loop.DoEvents();
     blink->SetEnabled(false);
     follow->SetEnabled(false);
-    return std::make_pair(notes, run_loop.Calls());
+    return std::make_pair(own.notes, own.loop.Calls());
   };
   const auto [stepped, stepped_calls] = run(false);
   const auto [skipped, skipped_calls] = run(true);
