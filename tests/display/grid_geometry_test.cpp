@@ -25,7 +25,7 @@ TEST_F(GridGeometryTest, LinesAndColumnsToSurfaceUnitsAndBack) {
     EXPECT_EQ(ky.ColWin(units), col);
   }
   SetInnerSize(1102.5f, 3276);  // 10.5 pitches up to 11 lines, 10.5 columns to even
-  EXPECT_EQ(std::pair(ky.NbLigne(), ky.NbCol()), std::pair(11, 10));
+  EXPECT_EQ(std::tuple(ky.NbLigne(), ky.NbCol()), std::tuple(11, 10));
 }
 
 TEST_F(GridGeometryTest, HauteurTexteRoundsToEvenBeforeThePitch) {

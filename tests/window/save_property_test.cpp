@@ -134,9 +134,12 @@ class Sequence {
     ModuleState& st = State();
     const int columns = Pick(0, 6);
     st.Colonnes.assign(static_cast<std::size_t>(columns) + 1, ColonneRecord{});
-    for (int i = 1; i <= columns; ++i) {  // a braced list draws left to right
-      st.Colonnes[static_cast<std::size_t>(i)] = {Word(), Word(), static_cast<Integer>(Pick(1, 80)),
-                                                  static_cast<Integer>(Pick(1, 20))};
+    for (int i = 1; i <= columns; ++i) {
+      ColonneRecord& c = st.Colonnes[static_cast<std::size_t>(i)];
+      c.Ident = Word();
+      c.TitreCol = Word();
+      c.ColDeb = static_cast<Integer>(Pick(1, 80));
+      c.Larg = static_cast<Integer>(Pick(1, 20));
     }
     st.NbColonnes = columns;
     st.LigneTable = Pick(1, 20);

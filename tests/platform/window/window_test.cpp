@@ -116,7 +116,7 @@ TEST_F(WindowTest, APersonTypesAFieldAndTheWindowShowsIt) {
       const std::string keys[] = {"mousemove --window " + w + " 30 30", "windowfocus --sync " + w,
                                   "type --delay 30 'Zoé Durand'", "key --delay 30 ctrl+Left",
                                   "type --delay 30 'M '", "key F2"};
-      for (const std::string& k : keys) Xdotool(k);
+      for (const std::string& key : keys) Xdotool(key);
     });
   });
   TimerRef guard = Once(*session, 20000, [&] { session->Env().Abandon = true; });
