@@ -3,9 +3,6 @@
 // MargeY 1), and the record table of its apartment.
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "component/module_state.hpp"
 #include "ferlan/kysaisie.hpp"
 #include "support/session_test.hpp"
