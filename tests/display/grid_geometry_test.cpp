@@ -20,9 +20,7 @@ TEST_F(GridGeometryTest, LinesAndColumnsToSurfaceUnitsAndBack) {
   // Lines tie up (1.5 and 2.5 lines up, -1.5 to -1), columns tie to even.
   for (auto [units, ligne, col] : std::vector<std::tuple<Single, Long, Long>>{
            {468, 2, 4}, {780, 3, 7}, {262.5f, 1, 2}, {367.5f, 1, 4}, {-468, -1, -4}}) {
-    SCOPED_TRACE(units);
-    EXPECT_EQ(ky.LigneWin(units), ligne);
-    EXPECT_EQ(ky.ColWin(units), col);
+    EXPECT_EQ(std::tuple(ky.LigneWin(units), ky.ColWin(units)), std::tuple(ligne, col)) << units;
   }
   SetInnerSize(1102.5f, 3276);  // 10.5 pitches up to 11 lines, 10.5 columns to even
   EXPECT_EQ(std::tuple(ky.NbLigne(), ky.NbCol()), std::tuple(11, 10));

@@ -123,9 +123,8 @@ TEST_F(TextOutputTest, EachCodeGivesItsColoursAndAnUnknownOneIsReportedByCouleur
            {u"Gris", e.Gris, -1}, {u"GrisFoncé", e.GrisFonce, -1}, {u"Bleu", e.Bleu, -1},
            {u"Rouge", e.Rouge, -1}, {u"Marron", e.Marron, -1}, {u"Jaune", e.Jaune, -1}}) {
     // clang-format on
-    SCOPED_TRACE(ToUtf8(code));
-    EXPECT_EQ(ky.Couleur(code), text);
-    EXPECT_EQ(ky.CouleurFond(code), back);
+    EXPECT_EQ(std::pair(ky.Couleur(code), ky.CouleurFond(code)), std::pair(text, back))
+        << ToUtf8(code);
   }
   Env().Bleu = 77;
   EXPECT_EQ(ky.CouleurFond(u"R"), 77);
