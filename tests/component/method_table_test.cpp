@@ -49,14 +49,14 @@ TEST(MethodTableTest, InvokersCheckArgumentsAndWriteOutputsBack) {
   KySaisie k;
   const MethodInfo* modif_clavier = FindMethod("ModifClavier");
   ASSERT_NE(modif_clavier, nullptr);
-  std::vector<Variant> too_many{Long{65}, true, Long{1}};
-  EXPECT_EQ(ErrorNumberOf([&] { modif_clavier->invoke(k, too_many); }), 450);
-  std::vector<Variant> missing{Long{65}};
-  EXPECT_EQ(ErrorNumberOf([&] { modif_clavier->invoke(k, missing); }), 449);
-  std::vector<Variant> wrong_type{String(u"x"), true};
-  EXPECT_EQ(ErrorNumberOf([&] { modif_clavier->invoke(k, wrong_type); }), 13);
-  std::vector<Variant> out_of_range{Double{40000}, true};
-  EXPECT_EQ(ErrorNumberOf([&] { modif_clavier->invoke(k, out_of_range); }), 6);
+  // Too many, too few, of the wrong type, out of range.
+  const std::pair<std::vector<Variant>, Long> refused_calls[] = {
+      {{Long{65}, true, Long{1}}, 450}, {{Long{65}}, 449}, {{String(u"x"), true}, 13},
+      {{Double{40000}, true}, 6}};
+  for (const auto& [refused, number] : refused_calls) {
+    std::vector<Variant> args = refused;
+    EXPECT_EQ(ErrorNumberOf([&] { modif_clavier->invoke(k, args); }), number);
+  }
 
   // GestKeyPress takes the character and writes 0 back into KeyAscii.
   std::vector<Variant> key{Long{97}};

@@ -57,8 +57,7 @@ class DisplayTest : public SessionTest {
     return dynamic_cast<MeasuredCanvas&>(zone->GetCanvas());
   }
   void ExpectAt(Long line, Long column) {
-    Long l = 0;
-    Long c = 0;
+    Long l = 0, c = 0;
     ky.PosAff(&l, &c);
     EXPECT_EQ(std::pair(l, c), std::pair(line, column));
   }

@@ -20,13 +20,10 @@ TEST_F(GridGeometryTest, LinesAndColumnsToSurfaceUnitsAndBack) {
   // Lines tie up (1.5 and 2.5 lines up, -1.5 to -1), columns tie to even.
   for (auto [units, ligne, col] : std::vector<std::tuple<Single, Long, Long>>{
            {468, 2, 4}, {780, 3, 7}, {262.5f, 1, 2}, {367.5f, 1, 4}, {-468, -1, -4}}) {
-    SCOPED_TRACE(units);
-    EXPECT_EQ(ky.LigneWin(units), ligne);
-    EXPECT_EQ(ky.ColWin(units), col);
+    EXPECT_EQ(std::tuple(ky.LigneWin(units), ky.ColWin(units)), std::tuple(ligne, col)) << units;
   }
   SetInnerSize(1102.5f, 3276);  // 10.5 pitches up to 11 lines, 10.5 columns to even
-  EXPECT_EQ(ky.NbLigne(), 11);
-  EXPECT_EQ(ky.NbCol(), 10);
+  EXPECT_EQ(std::tuple(ky.NbLigne(), ky.NbCol()), std::tuple(11, 10));
 }
 
 TEST_F(GridGeometryTest, HauteurTexteRoundsToEvenBeforeThePitch) {
@@ -39,15 +36,13 @@ TEST_F(GridGeometryTest, HauteurTexteRoundsToEvenBeforeThePitch) {
 
 TEST_F(GridGeometryTest, AffPosPlacesThroughTheSurfaceAndPosAffReadsBack) {
   ky.AffPos(3, 5);
-  EXPECT_EQ(Zone().CurrentY(), 936.0f);
-  EXPECT_EQ(Env().CourantY, 936.0f);
+  EXPECT_EQ(std::pair(Zone().CurrentY(), Env().CourantY), std::pair(936.0F, 936.0F));
   ExpectAt(3, 5);
   ky.AffPosT(1000, 200);  // 3.2 lines, 1.9 columns
   ExpectAt(3, 2);
   Zone().Font().SetSize(5);  // line 3 at 470.4, column 3 at 157.5: rounded to even
   ky.AffPos(3, 3);
-  EXPECT_EQ(Env().CourantY, 470.0f);
-  EXPECT_EQ(Env().CourantX, 158.0f);
+  EXPECT_EQ(std::pair(Env().CourantX, Env().CourantY), std::pair(158.0F, 470.0F));
   EXPECT_EQ(TakeLog(), "");  // placing draws nothing
 }
 
@@ -69,8 +64,7 @@ TEST_F(GridGeometryTest, OverflowReachesTheCallerAndWhatWasWrittenStays) {
   ExpectPlatformError([&] { ky.ColWin(1e12f); }, 6);
   Env().CourantY = 624;
   Env().CourantX = 1e12f;
-  Long l = 0;
-  Long c = 0;
+  Long l = 0, c = 0;
   ExpectPlatformError([&] { ky.PosAff(&l, &c); }, 6);
   EXPECT_EQ(l, 2);  // written before the column overflowed
 }
@@ -105,8 +99,7 @@ TEST_F(GridGeometryTest, EffaceEcranClearsAndGoesToLineOneColumnOneOrUnderTheToo
   ky.EffaceEcran();
   ky.EffaceEcran(true);
   EXPECT_EQ(TakeLog(), "Efface\nEfface\nReduit\n");
-  EXPECT_EQ(Env().CourantY, 312.0f);
-  EXPECT_EQ(Env().CourantX, 105.0f);
+  EXPECT_EQ(std::pair(Env().CourantX, Env().CourantY), std::pair(105.0F, 312.0F));
   auto toolbar = std::dynamic_pointer_cast<ferlan::Control>(Form().Member("BarreOutils"));
   ASSERT_TRUE(toolbar);
   toolbar->SetVisible(true);  // 420 high: 420 + 195 / 2 = 517.5, to even

@@ -123,24 +123,21 @@ TEST_F(TextOutputTest, EachCodeGivesItsColoursAndAnUnknownOneIsReportedByCouleur
            {u"Gris", e.Gris, -1}, {u"GrisFoncé", e.GrisFonce, -1}, {u"Bleu", e.Bleu, -1},
            {u"Rouge", e.Rouge, -1}, {u"Marron", e.Marron, -1}, {u"Jaune", e.Jaune, -1}}) {
     // clang-format on
-    SCOPED_TRACE(ToUtf8(code));
-    EXPECT_EQ(ky.Couleur(code), text);
-    EXPECT_EQ(ky.CouleurFond(code), back);
+    EXPECT_EQ(std::pair(ky.Couleur(code), ky.CouleurFond(code)), std::pair(text, back))
+        << ToUtf8(code);
   }
   Env().Bleu = 77;
   EXPECT_EQ(ky.CouleurFond(u"R"), 77);
 
   // Compared exactly: no accent, lower case, a trailing blank, empty.
-  const auto& reports = session.Records().reports;
   for (const char16_t* code : {u"GrisFonce", u"n", u"B ", u""}) {
     SCOPED_TRACE(ToUtf8(code));
     EXPECT_EQ(ky.CouleurFond(code), -1);
     EXPECT_EQ(ky.Couleur(code), 0);
-    ASSERT_FALSE(reports.empty());
-    EXPECT_EQ(reports.back().source, u"Couleur");
-    EXPECT_EQ(reports.back().text, String(code) + u" Code Couleur Inconnu");
+    // One report a Couleur of an unknown code, none else.
+    EXPECT_EQ(TakeReports(),
+              std::vector<std::string>{"Couleur: " + ToUtf8(code) + " Code Couleur Inconnu"});
   }
-  EXPECT_EQ(reports.size(), 4u);  // one a Couleur of an unknown code, none else
 }
 
 }  // namespace

@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+#include <utility>
+
 #include "editor/editor_fixture.hpp"
 #include "forms/bitmap.hpp"
 
@@ -35,18 +38,15 @@ TEST_F(CaretTest, CaretStandsUnderTheCharacterAsWideAsItWhileTheFieldWaits) {
   // The timers place the caret during the wait.
   Edit(At(u"hello", 4), "{wait:2}{Enter}");
   PictureBox& caret = *CaretControl(St());
-  EXPECT_EQ(caret.Left(), kCT + 3 * 105);  // the width of "hel"
-  EXPECT_EQ(caret.Top(), 790);             // 624 + 195 x 0.85 = 789.75
-  EXPECT_EQ(caret.Width(), 105);
+  // Right of "hel", at 624 + 195 x 0.85 = 789.75, a letter wide.
+  EXPECT_EQ(std::tuple(caret.Left(), caret.Top(), caret.Width()), std::tuple(kCT + 315, 790, 105));
   EXPECT_FALSE(caret.Visible());  // hidden once the key came
 
   // Wider letters push the caret further; the top rounds 624 + 390 x 0.85
   // = 955.5 to the even 956.
   Zone().Font().SetSize(20);
   Edit(At(u"hello", 4), "{wait:2}{Enter}");
-  EXPECT_EQ(caret.Left(), kCT + 3 * 210);
-  EXPECT_EQ(caret.Top(), 956);
-  EXPECT_EQ(caret.Width(), 210);
+  EXPECT_EQ(std::tuple(caret.Left(), caret.Top(), caret.Width()), std::tuple(kCT + 630, 956, 210));
   // Behind the text the blank is measured as "A", not as nothing.
   Edit(At(u"ab", 5, 10), "{wait:2}{Enter}");
   EXPECT_EQ(caret.Width(), 210);
@@ -54,8 +54,8 @@ TEST_F(CaretTest, CaretStandsUnderTheCharacterAsWideAsItWhileTheFieldWaits) {
   // Once the field has its key, the timers stop and leave the caret alone.
   const CaretForm& form = *St().Feuille_Caret;
   EXPECT_FALSE(form.TimerCaret->Enabled() || form.TimerCaretCligote->Enabled());
-  EXPECT_EQ(form.TimerCaret->Interval(), 0);
-  EXPECT_EQ(form.TimerCaretCligote->Interval(), 0);
+  EXPECT_EQ(std::pair(form.TimerCaret->Interval(), form.TimerCaretCligote->Interval()),
+            std::pair(0, 0));
   St().PosCaretX = 3000;
   Pump(600);
   EXPECT_NE(caret.Left(), 3000);
@@ -67,8 +67,7 @@ TEST_F(CaretTest, ACaretControlPutInItsPlaceIsTheOneMoved) {
   const auto second = session.NewPictureBox();
   session.Form().AddMember("Caret", second);
   Edit(At(u"hello", 2), "{wait:2}{Enter}");
-  EXPECT_EQ(second->Left(), kCT + 105);
-  EXPECT_EQ(second->Width(), 105);
+  EXPECT_EQ(std::pair(second->Left(), second->Width()), std::pair(kCT + 105, 105.0F));
   EXPECT_EQ(first->Left(), kCT + 3 * 105);  // left where it was
 }
 
@@ -96,8 +95,7 @@ TEST_F(CaretTest, CaretBlinksOnlyWhileTheFormIsInFront) {
   EXPECT_FALSE(shown_after(500));
   St().PosCaretY = 3000;
   EXPECT_FALSE(shown_after(2));
-  EXPECT_EQ(caret.Left(), 2000);
-  EXPECT_EQ(caret.Top(), 3000);
+  EXPECT_EQ(std::pair(caret.Left(), caret.Top()), std::pair(2000.0F, 3000.0F));
 }
 
 TEST_F(CaretTest, BlinkPhaseCarriesOverUnlessTheCaretMovesSideways) {

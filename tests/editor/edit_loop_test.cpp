@@ -37,8 +37,7 @@ TEST_F(EditLoopTest, WindowScrollsAtTheEdgesAndJumpsBack) {
   TakeLog();
   // P 11 on column 20; at 12 Decal is 1 and holds down to P 2; at P 1 it
   // jumps back to 0, and the end draws from the start.
-  std::string keys = "{Right}";
-  std::string held;
+  std::string keys = "{Right}", held;
   for (int i = 0; i < 11; ++i) {
     keys += "{Left}";
     held += "bcdefghijkl|";
@@ -79,10 +78,7 @@ TEST_F(EditLoopTest, HiddenMaskedAndDateValuesShowAsTheirKindWants) {
 
 TEST_F(EditLoopTest, FieldOnAnotherSurfaceKeepsTheStatusOnTheMainOne) {
   auto other = session.NewPictureBox();
-  other->SetWidth(6000);
-  other->SetHeight(3000);
-  other->SetLeft(1500);
-  other->SetTop(2000);
+  Place(*other, 1500, 2000, 6000, 3000);
   const Outcome out = Edit({u"abc", 5, u"C", u"F", 0, u"B", 5, other, 30, 40}, "x{wait:2}{Enter}");
   EXPECT_EQ(ToUtf8(out.ch), "x");
   EXPECT_EQ(session.Env().surface, session.SurfaceRef());
@@ -97,8 +93,8 @@ TEST_F(EditLoopTest, FieldOnAnotherSurfaceKeepsTheStatusOnTheMainOne) {
   EXPECT_EQ(texts_on(*other), "abc  |x    |x    |");
   EXPECT_EQ(texts_on(Zone()), "Curseur   1|Curseur   2|");
   // The caret: CT + "x", then the surface's place and CaretX / CaretY.
-  EXPECT_EQ(CaretControl(St())->Left(), kCT + 105 + 1500 + 30);
-  EXPECT_EQ(CaretControl(St())->Top(), 790 + 2000 + 40);
+  EXPECT_EQ(std::pair(CaretControl(St())->Left(), CaretControl(St())->Top()),
+            std::pair(kCT + 105 + 1500 + 30, Single{790 + 2000 + 40}));
 }
 
 TEST_F(EditLoopTest, AbandonLeavesAtOnceWithTheCaretTimersRunning) {

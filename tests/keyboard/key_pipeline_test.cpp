@@ -18,6 +18,10 @@ using KeyPipelineTest = testing::SessionTest;
 struct Received {
   String r;
   Integer code;
+  bool operator==(const Received&) const = default;
+  friend void PrintTo(const Received& k, std::ostream* os) {
+    *os << "R \"" << ToUtf8(k.r) << "\" code " << k.code;
+  }
 };
 
 // One wait for a key, as the field editor makes it.
@@ -38,9 +42,7 @@ TEST_F(KeyPipelineTest, ScriptedKeysReachSaisieAsKeyCodes) {
       {"{Ctrl+R}", 0, u"R"}};
   for (const auto& [script, code, r] : cases) {
     Type(script);
-    const Received got = WaitForKey(u"R");
-    EXPECT_EQ(got.code, code) << script;
-    EXPECT_EQ(got.r, r) << script;
+    EXPECT_EQ(WaitForKey(u"R"), (Received{r, code})) << script;
   }
 }
 
@@ -48,34 +50,27 @@ TEST_F(KeyPipelineTest, KeysThatStoreNothingLeaveTheWaitRunning) {
   // Caps Lock alone, KeyCode 0 with the KeyPress that follows, and Shift
   // alone store nothing; the wait then takes the next real key.
   Type("{CapsLock}{down:0:0}{press:97}{down:16:1}z");
-  const Received got = WaitForKey();
-  EXPECT_EQ(got.r, u"z");
-  EXPECT_EQ(got.code, 0);
+  EXPECT_EQ(WaitForKey(), (Received{u"z", 0}));
 }
 
 TEST_F(KeyPipelineTest, ShiftAloneLeavesToucheVirtuelleWhileCtrlAloneClearsIt) {
   KySaisie k;
-  Integer shift_key = 16;
+  // The key code GestKeyDown leaves to the host.
+  const auto down = [&](Integer code, Integer shift) {
+    k.GestKeyDown(code, shift);
+    return code;
+  };
   Env().ToucheVirtuelle = true;
-  k.GestKeyDown(shift_key, 1);
+  EXPECT_EQ(down(16, 1), 16);
   EXPECT_TRUE(Env().ToucheVirtuelle);
-  EXPECT_EQ(shift_key, 16);
-  Integer ctrl_key = 17;
-  k.GestKeyDown(ctrl_key, 2);
+  EXPECT_EQ(down(17, 2), 17);
   EXPECT_FALSE(Env().ToucheVirtuelle);
-  EXPECT_EQ(ctrl_key, 17);
   EXPECT_FALSE(State().ToucheTraitee);
-
-  Integer caps = 20;
-  k.GestKeyDown(caps, 0);
-  EXPECT_EQ(caps, 0);
-  Integer caps_with_shift = 20;
-  k.GestKeyDown(caps_with_shift, 1);
-  EXPECT_EQ(caps_with_shift, 20);
+  EXPECT_EQ(down(20, 0), 0);  // Caps Lock, unless with Shift
+  EXPECT_EQ(down(20, 1), 20);
 
   // Ctrl+Alt+E is no chord: its character goes through KeyPress.
-  Integer e_key = 69;
-  k.GestKeyDown(e_key, 6);
+  down(69, 6);
   Integer euro = 128;
   k.GestKeyPress(euro);
   EXPECT_EQ(euro, 0);
@@ -86,8 +81,7 @@ TEST_F(KeyPipelineTest, ShiftAloneLeavesToucheVirtuelleWhileCtrlAloneClearsIt) {
 TEST_F(KeyPipelineTest, CharacterAbove255WaitsUntilAnotherKeyReplacesIt) {
   Type("\xE4\xB8\xAD{wait:5}q");  // a character outside the code page, then q
   const std::int64_t start = session.Clock().Now();
-  const Received got = WaitForKey();
-  EXPECT_EQ(got.r, u"q");
+  EXPECT_EQ(WaitForKey().r, u"q");
   EXPECT_GE(session.Clock().Now() - start, 6);
 }
 
@@ -99,23 +93,18 @@ TEST_F(KeyPipelineTest, KeyBeforeTheWaitIsLostAndTheLastOfOneDoEventsWins) {
     k.ModifClavier(98, true);
   };
   Type("{down:90:0}");
-  const Received got = WaitForKey();
-  EXPECT_EQ(got.r, u"b");
+  EXPECT_EQ(WaitForKey().r, u"b");
 }
 
 TEST_F(KeyPipelineTest, AbandonEndsTheWaitWithCodeZero) {
   Env().Abandon = true;
   const std::int64_t before = session.Clock().Now();
-  const Received got = WaitForKey(u"r");
-  EXPECT_EQ(got.code, 0);
-  EXPECT_EQ(got.r, u"r");
+  EXPECT_EQ(WaitForKey(u"r"), (Received{u"r", 0}));
   EXPECT_EQ(session.Clock().Now(), before) << "no DoEvents when Abandon is set on entry";
 
   Env().Abandon = false;
   Type("{wait:3}{abandon}x");
-  const Received abandoned = WaitForKey();
-  EXPECT_EQ(abandoned.code, 0);
-  EXPECT_EQ(abandoned.r, u"");
+  EXPECT_EQ(WaitForKey(), (Received{u"", 0}));
   EXPECT_EQ(State().ToucheEnAttente, 0);
 }
 
@@ -190,10 +179,7 @@ TEST_F(KeyPipelineTest, KeyOutsideTheCodePageFailsAfterWhatWasAdded) {
   EXPECT_EQ(State().ClavierTampon, u"[]");
   Env().ToucheVide = 27;
   testing::ExpectPlatformError([] { KySaisie{}.ClavierVirtuelToucheFonction(256); }, 5);
-  String r;
-  Integer code = 0;
-  KySaisie{}.Saisie(r, &code);  // the blanking key added before the failure
-  EXPECT_EQ(code, 27);
+  EXPECT_EQ(WaitForKey().code, 27);  // the blanking key added before the failure
 }
 
 }  // namespace

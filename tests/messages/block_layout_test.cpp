@@ -49,11 +49,9 @@ TEST_F(BlockTest, ASyntaxErrorIsReportedAndTheSameListIsDrawn) {
   ky.AffPos(2, 1);
   String lines = u"[a,,b]";
   ky.AffBloc(u"N", lines, u"N", false, false);
-  ASSERT_EQ(session.Records().reports.size(), 1u);
-  EXPECT_EQ(session.Records().reports[0].source, u"AffBloc");
-  EXPECT_EQ(session.Records().reports[0].text,
-            u"Erreur de Syntaxe Liste : @ 4ème Caractère :@[a,@ ** Correct jusque là ** @,b]"
-            u"@** Incorrect à partir de là **@");
+  EXPECT_EQ(TakeReports(),
+            std::vector<std::string>{"AffBloc: Erreur de Syntaxe Liste : @ 4ème Caractère :@[a,@ ** "
+                                     "Correct jusque là ** @,b]@** Incorrect à partir de là **@"});
   EXPECT_EQ(lines, u"[]");
   const std::string log = TakeLog();
   for (const char* line : {"Texte 5857 936 \"a\"", "Texte 5857 1248 \"\"", "Texte 5857 1560 \"b\""}) {
@@ -62,9 +60,9 @@ TEST_F(BlockTest, ASyntaxErrorIsReportedAndTheSameListIsDrawn) {
 
   lines = u"x";
   ky.AffBloc(u"N", lines, u"N", false, false);
-  EXPECT_EQ(session.Records().reports[1].text,
-            u"Erreur de Syntaxe Liste : @ 1ème Caractère :@@ ** Correct jusque là ** @x"
-            u"@** Incorrect à partir de là **@");
+  EXPECT_EQ(TakeReports(),
+            std::vector<std::string>{"AffBloc: Erreur de Syntaxe Liste : @ 1ème Caractère :@@ ** "
+                                     "Correct jusque là ** @x@** Incorrect à partir de là **@"});
   EXPECT_EQ(lines, u"[]");
 }
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 
 #include "display/display_fixture.hpp"
 
@@ -15,10 +16,10 @@ using ColouredMessageTest = DisplayTest;
 const String kTotal = u"[[B,Total :],[Rouge,12 500,G],[N, F]]";
 
 TEST_F(ColouredMessageTest, SizeLettersAndWidthsPerRun) {
-  EXPECT_EQ(ky.TailleMesCoul(u"G"), 2.0f);
-  EXPECT_EQ(ky.TailleMesCoul(u"S"), 1.4f);
-  EXPECT_EQ(ky.TailleMesCoul(u"L"), 1.1f);
-  for (const char16_t* other : {u"g", u"", u"GG", u" G"}) EXPECT_EQ(ky.TailleMesCoul(other), 1.0f);
+  for (const auto& [letter, size] : {std::pair(u"G", 2.0F), {u"S", 1.4F}, {u"L", 1.1F},
+                                     {u"g", 1.0F}, {u"", 1.0F}, {u"GG", 1.0F}, {u" G", 1.0F}}) {
+    EXPECT_EQ(ky.TailleMesCoul(letter), size) << ToUtf8(letter);
+  }
 
   // 7 x 105, then 6 x 210 at double size, then 2 x 105.
   EXPECT_EQ(ky.LongMesCoul(kTotal), 735 + 1260 + 210);
@@ -47,20 +48,16 @@ TEST_F(ColouredMessageTest, TheWorkedMessageIsCentredRunByRunOnOneTop) {
                            "Texte 5542 936 \"12 500\" " +
                            Num(Env().Rouge) + "\n" + Written(6802, 936, 7012, " F"));
   EXPECT_EQ(Zone().Font().Size(), 10.0f);
-  EXPECT_EQ(Env().CourantY, 936.0f);
-  EXPECT_EQ(Env().CourantX, 7012.0f);
+  EXPECT_EQ(std::pair(Env().CourantX, Env().CourantY), std::pair(7012.0F, 936.0F));
 }
 
 TEST_F(ColouredMessageTest, AGivenLeftEdgeIsRoundedAndZeroIsTheLeftEdge) {
-  ky.AffMesCoul(2, u"[]", false, 52.5f);  // ties to even
-  EXPECT_EQ(Env().CourantX, 52.0f);
-  ky.AffMesCoul(2, u"[]", false, 53.5f);
-  EXPECT_EQ(Env().CourantX, 54.0f);
-  ky.AffMesCoul(2, u"[]", false, 0);
-  EXPECT_EQ(Env().CourantX, 0.0f);
+  for (const auto& [left, x] : {std::pair(52.5F, 52.0F), {53.5F, 54.0F}, {0.0F, 0.0F}}) {
+    ky.AffMesCoul(2, u"[]", false, left);  // ties to even
+    EXPECT_EQ(Env().CourantX, x) << left;
+  }
   ky.AffMesCoul(4, u"[]", false);  // centred: half the surface
-  EXPECT_EQ(Env().CourantX, 5910.0f);
-  EXPECT_EQ(Env().CourantY, 1248.0f);
+  EXPECT_EQ(std::pair(Env().CourantX, Env().CourantY), std::pair(5910.0F, 1248.0F));
   EXPECT_EQ(TakeLog(), "");
   ky.AffMesCoul(4, u"[]");  // clears first
   EXPECT_EQ(TakeLog(), Cleared(1248));

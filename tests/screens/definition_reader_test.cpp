@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
 #include "screens/screens_fixture.hpp"
 
@@ -28,12 +29,10 @@ TEST_F(ReaderTest, CommandsAreCaseSensitiveButNReDimAndUnknownOnesAreReported) {
       Read(u"[@col8,[A,a,A],@coulR,[B,b,A],@COL8,@COLONNE,[C,c,A],@NReDi,@,@nredimXYZ,[D,d,A]]");
   EXPECT_EQ(rest, u"[]");
   EXPECT_EQ(Env().RubCourante, 0);
-  EXPECT_EQ(TakeReports(), (std::vector<std::string>{
-                           "DORVI: Commande @col8@ Inconnue @",
-                           "DORVI: Commande @coulR@ Inconnue @",
-                           "DORVI: Commande @NReDi@ Inconnue @",
-                           "DORVI: Commande @@ Inconnue @",
-                       }));
+  EXPECT_EQ(TakeReports(),
+            (std::vector<std::string>{
+                "DORVI: Commande @col8@ Inconnue @", "DORVI: Commande @coulR@ Inconnue @",
+                "DORVI: Commande @NReDi@ Inconnue @", "DORVI: Commande @@ Inconnue @"}));
   // Reading went on after each: four fields, automatic columns all ("COL"
   // is tested first, so "@COLONNE" sets 0), default colour, and no resizing.
   ASSERT_EQ(NbRub(), 4);
@@ -48,14 +47,13 @@ TEST_F(ReaderTest, EmptyAndMissingColumnsDifferAndOnlyMLResetsTheColumn) {
       u"[@COL8,[A,a,A,5],[B,b,A,5,ML],[C,c,A,5,0],[D,d,A,5,ML,3],[E,e,A,5,\"\",\"\"],"
       u"[F,f,A,5]]");
   ASSERT_EQ(NbRub(), 6);
-  EXPECT_EQ(Rub(1).ClT, 840);
-  EXPECT_EQ(Rub(2).ClT, Rub(1).CzT + Rub(1).LzT + 105);  // follows A even under @COL8
-  EXPECT_EQ(Rub(3).ClT, 840);                            // line 0 keeps the column
-  EXPECT_EQ(Rub(4).ClT, 315);                            // a column after ML wins
-  EXPECT_EQ(Rub(5).ClT, 105);                            // empty: automatic
-  EXPECT_EQ(Rub(6).ClT, 840);                            // missing: @COL's
+  // B follows A even under @COL8; line 0 keeps the column; a column after
+  // ML wins; an empty one is automatic, a missing one @COL's.
+  const Single columns[] = {840, Rub(1).CzT + Rub(1).LzT + 105, 840, 315, 105, 840};
   const Integer lines[] = {2, 2, 2, 2, 4, 6};
-  for (int i = 1; i <= 6; ++i) EXPECT_EQ(Rub(i).L, lines[i - 1]) << i;
+  for (int i = 1; i <= 6; ++i) {
+    EXPECT_EQ(std::tuple(Rub(i).ClT, Rub(i).L), std::tuple(columns[i - 1], lines[i - 1])) << i;
+  }
 }
 
 TEST_F(ReaderTest, LinesAreRelativeAbsoluteOrTwoBelow) {
@@ -88,14 +86,11 @@ TEST_F(ReaderTest, FixedTextsAreCutAndPaddedAndBareTextsAreFields) {
   EXPECT_EQ(Rub(1).TypeDon.Text(), u"ABC");
   EXPECT_EQ(Rub(1).Valeur.Text(), String(100, u' '));
   // A bare text is the identifier of a field with nothing else.
-  EXPECT_EQ(Rub(2).Identif.Trimmed(), u"bare");
-  EXPECT_EQ(Rub(2).Libelle.Trimmed(), u"");
-  EXPECT_EQ(Rub(2).LC, 0);
-  EXPECT_EQ(Rub(2).L, Rub(1).L + 2);
+  EXPECT_EQ(std::tuple(Rub(2).Identif.Trimmed(), Rub(2).Libelle.Trimmed(), Rub(2).LC, Rub(2).L),
+            std::tuple(u"bare", u"", 0, Rub(1).L + 2));
   // Element 0 is never filled.
-  EXPECT_EQ(Rub(0).Identif.Text(), String(30, u' '));
-  EXPECT_EQ(Rub(0).L, 0);
-  EXPECT_EQ(Rub(0).ClT, 0);
+  EXPECT_EQ(std::tuple(Rub(0).Identif.Text(), Rub(0).L, Rub(0).ClT),
+            std::tuple(String(30, u' '), 0, 0.0F));
 }
 
 TEST_F(ReaderTest, FortyFieldsFitAndAFortyFirstRaisesNineKeepingTheTable) {
@@ -112,8 +107,7 @@ TEST_F(ReaderTest, FortyFieldsFitAndAFortyFirstRaisesNineKeepingTheTable) {
   EXPECT_EQ(Rub(40).L, -2) << "EcrSais did not run";
   EXPECT_EQ(TakeLog(), "");
   // The definition holds what was not read.
-  EXPECT_EQ(list.find(u"F41"), String::npos);
-  EXPECT_NE(list.find(u"F42"), String::npos);
+  EXPECT_TRUE(list.find(u"F41") == String::npos && list.find(u"F42") != String::npos);
 }
 
 TEST_F(ReaderTest, NumbersBeyondIntegerRaiseOverflow) {

@@ -28,8 +28,7 @@ TEST_F(EntryByIdentifierTest, EntryRoundsTheRecordAndDisplayDoesNot) {
   Integer tr = -1;
   Type("{Ctrl+End}Dupont{Enter}");
   KySaisie{}.Sai(u"NOM", c, tr);
-  EXPECT_EQ(c, u"Dupont");
-  EXPECT_EQ(tr, 13);
+  EXPECT_EQ(std::tuple(c, tr), std::tuple(u"Dupont", 13));
   EXPECT_EQ(Record(1).Valeur.Text(), u"Dupont" + String(94, u' '));
   const std::string entry_log = TakeLog();
   EXPECT_THAT(entry_log, HasSubstr("EffaceRect 1630 936 4985 1130 -1\n"));
@@ -57,7 +56,7 @@ TEST_F(EntryByIdentifierTest, NumbersAndDatesComeBackInStoredForm) {
   EXPECT_EQ(Record(1).Valeur.Text(), StoredInteger(36) + String(98, u' '));
   Type("{Esc}15081999{PgDn}");
   KySaisie{}.SaiD(u"DATEFAC", date, tr, o);
-  EXPECT_EQ(std::tuple(date, tr, o), std::tuple(String(u"15/08/1999"), Integer{34}, Long{19990815}));
+  EXPECT_EQ(std::tuple(date, tr, o), std::tuple(u"15/08/1999", 34, 19990815));
   EXPECT_EQ(Record(2).Valeur.Trimmed(), u"15/08/1999");
   Type("7{Enter}");
   KySaisie{}.SaiD(u"QTE", qte, tr, o);
@@ -79,9 +78,7 @@ TEST_F(EntryByIdentifierTest, EntryKindsSetTheEditorMode) {
   c = u"keep";
   tr = 77;
   KySaisie{}.SaisDonnee(u"X", u"NOM", c, tr, &o);
-  EXPECT_EQ(c, u"keep");
-  EXPECT_EQ(tr, 77);
-  EXPECT_EQ(o, 5);
+  EXPECT_EQ(std::tuple(c, tr, o), std::tuple(u"keep", 77, 5));
   EXPECT_EQ(TakeLog(), "");
   EXPECT_EQ(Record(1).Valeur.Trimmed(), u"Dupont");
 }

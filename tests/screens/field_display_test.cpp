@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "entry/entry_fixture.hpp"
@@ -57,8 +58,7 @@ TEST_F(FieldDisplayTest, ConsultationShowsTheDisplayForm) {
 TEST_F(FieldDisplayTest, MessageRightOfTheFieldWipesTheRestOfTheLine) {
   Single y = 0, x = 0;
   KySaisie{}.PosAD(u"NOM", y, x);
-  EXPECT_EQ(x, 5250);
-  EXPECT_EQ(y, 936);
+  EXPECT_EQ(std::pair(x, y), std::pair(5250.0F, 936.0F));
   KySaisie{}.MesAD(u"NOM", u"R", u"Client connu");
   const std::string log = TakeLog();
   EXPECT_THAT(log, StartsWith("EffaceRect 5197.5 936 " + Right() + " 1131 -1\n"));
@@ -87,8 +87,7 @@ TEST_F(FieldDisplayTest, MessagesUnderTheFieldEraseFromUnderTheLabel) {
 
   Long l = 0, c = 0;
   KySaisie{}.PosAffRub(u"NOM", l, c);
-  EXPECT_EQ(l, 3);
-  EXPECT_EQ(c, 2);
+  EXPECT_EQ(std::pair(l, c), std::pair(Long{3}, Long{2}));
 }
 
 // PosAD's X is unrounded (5250.5), ImageAD's rounded (5250, ties to even).
@@ -115,8 +114,7 @@ TEST_F(FieldDisplayTest, PictureUnderTheFieldMovesTheControl) {
   KySaisie{}.ImageSD(u"PRIX", box);
   EXPECT_THAT(TakeLog(), StartsWith("EffaceRect 105 1872 "));
   EXPECT_TRUE(box->Visible());
-  EXPECT_EQ(box->Left(), 1785.5F);
-  EXPECT_EQ(box->Top(), 1872);
+  EXPECT_EQ(std::pair(box->Left(), box->Top()), std::pair(1785.5F, 1872.0F));
   ExpectPlatformError([&] { KySaisie{}.ImageAD(u"NOM", session.NewPictureBox()); }, 91);
   EXPECT_THAT(TakeLog(), StartsWith("EffaceRect 5250 936 "));
   ExpectPlatformError([&] { KySaisie{}.ImageSD(u"NOM", nullptr); }, 91);

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <sstream>
+#include <tuple>
+#include <utility>
 
 #include "screens/screens_fixture.hpp"
 
@@ -30,8 +32,7 @@ const String kWorkedScreen =
 TEST_F(LayoutTest, WorkedScreenGetsThePositionsItsTextWorksOut) {
   ky.AffPos(4);
   Zone().SetWidth(8000);
-  const Single x = Env().CourantX;
-  const Single y = Env().CourantY;
+  const auto position = std::pair(Env().CourantX, Env().CourantY);
   EXPECT_EQ(Read(kWorkedScreen), u"[]");
   ASSERT_EQ(NbRub(), 4);
   // The widest label that starts a line is "Date de facture", 1575: both
@@ -54,9 +55,7 @@ TEST_F(LayoutTest, WorkedScreenGetsThePositionsItsTextWorksOut) {
       "Rectangle 3 2805 4304 1470 309\n";
   EXPECT_EQ(TakeLog(), "Hauteur 3744 False\nLargeur 7959 False\n" + drawing);
   EXPECT_TRUE(session.Records().reports.empty());
-  // The display position has not moved.
-  EXPECT_EQ(Env().CourantX, x);
-  EXPECT_EQ(Env().CourantY, y);
+  EXPECT_EQ(std::pair(Env().CourantX, Env().CourantY), position) << "the display position moved";
 
   // Everything is resolved now: a second run draws the same screen, even
   // from another display position.
@@ -72,26 +71,20 @@ TEST_F(LayoutTest, SharedLabelWidthComesFromLineStartersWithAutomaticWidth) {
       u"[D,The longest label of them all,A,5,,,3],[OK,Accord,B,9],[N,Montant,D2,7]]");
   // 1575 ("Very long label") + 105: B follows on A's line with its own 2520
   // + 105, and D's given width does not count.
-  EXPECT_EQ(Rub(1).LlT, 1680);
-  EXPECT_EQ(Rub(2).LlT, 2625);
-  EXPECT_EQ(Rub(3).LlT, 1680);
-  EXPECT_EQ(Rub(4).LlT, 315);
+  EXPECT_EQ(std::tuple(Rub(1).LlT, Rub(2).LlT, Rub(3).LlT, Rub(4).LlT),
+            std::tuple(1680, 2625, 1680, 315));
   EXPECT_EQ(Rub(1).CzT, Rub(3).CzT);
   EXPECT_EQ(Rub(2).ClT, Rub(1).CzT + Rub(1).LzT + 105);
   // A yes/no field is 5 columns wide in all; "D2" keeps its given width.
-  EXPECT_EQ(Rub(5).LC, 3);
-  EXPECT_EQ(Rub(5).LzT, 525);
-  EXPECT_EQ(Rub(6).LC, 7);
+  EXPECT_EQ(std::tuple(Rub(5).LC, Rub(5).LzT, Rub(6).LC), std::tuple(3, 525, 7));
 }
 
 TEST_F(LayoutTest, FirstFieldTakesTheDisplayLineUnlessItsLineIsAbsolute) {
   ky.AffPos(6);
   Read(u"[[A,a,A,5,S3],[B,b,A,5,S3]]");
-  EXPECT_EQ(Rub(1).L, 6);
-  EXPECT_EQ(Rub(2).L, 9);
+  EXPECT_EQ(std::tuple(Rub(1).L, Rub(2).L), std::tuple(6, 9));
   Read(u"[[A,a,A,5,3],[B,b,A,5]]");
-  EXPECT_EQ(Rub(1).L, 3);
-  EXPECT_EQ(Rub(2).L, 5);
+  EXPECT_EQ(std::tuple(Rub(1).L, Rub(2).L), std::tuple(3, 5));
 }
 
 TEST_F(LayoutTest, SizingUsesTheLastFieldsLineBeforeAnyDrawing) {
@@ -115,8 +108,7 @@ TEST_F(LayoutTest, CentredFieldNarrowerSurfaceAndElementZero) {
   // centred X would be below 1, so it is 1.
   Zone().SetWidth(1000);
   Read(u"[[A,a,A,5,,C]]");
-  EXPECT_EQ(Rub(1).ClT, 1);
-  EXPECT_EQ(Rub(1).CzT, 1 + 210 + 42);
+  EXPECT_EQ(std::pair(Rub(1).ClT, Rub(1).CzT), std::pair(1.0F, 1.0F + 210 + 42));
 
   TakeLog();
   // Element 0 is never filled: it draws as blanks and zeros, and its blank
@@ -125,9 +117,7 @@ TEST_F(LayoutTest, CentredFieldNarrowerSurfaceAndElementZero) {
   EXPECT_EQ(TakeLog(),
             "Cadre3D -1 0 \"\" -3 0 0 309 \"3D\" 0 \"G\"\n"
             "Rectangle 3 -3 0 0 309\n");
-  ASSERT_EQ(session.Records().reports.size(), 1u);
-  EXPECT_EQ(session.Records().reports[0].source, u"Couleur");
-  EXPECT_EQ(session.Records().reports[0].text, u" Code Couleur Inconnu");
+  EXPECT_EQ(TakeReports(), std::vector<std::string>{"Couleur:  Code Couleur Inconnu"});
   ExpectPlatformError([&] { ky.GénèreControl(41); }, 9);
   ExpectPlatformError([&] { ky.GénèreControl(-1); }, 9);
 }

@@ -1,10 +1,7 @@
 // The fixtures of the entry-screen suites: a headless session on the
 // fixed-metric surface (a column 105 wide, a line 312 high, MargeX and
-// MargeY 1), the record table of its apartment, and the reports Erreur got.
+// MargeY 1), and the record table of its apartment.
 #pragma once
-
-#include <string>
-#include <vector>
 
 #include "component/module_state.hpp"
 #include "ferlan/kysaisie.hpp"
@@ -34,15 +31,6 @@ class FieldTest : public SessionTest {
     return r;
   }
   RubRecord& Record(Integer n) { return State().Rub.at(static_cast<std::size_t>(n)); }
-  // "source: text" of each report since the last look (the number alone for a code).
-  std::vector<std::string> TakeReports() {
-    std::vector<std::string> out;
-    for (const auto& r : session.Records().reports) {
-      out.push_back(r.code ? std::to_string(*r.code) : ToUtf8(r.source) + ": " + ToUtf8(r.text));
-    }
-    session.Records().reports.clear();
-    return out;
-  }
 };
 
 // Screens read by Dorvi, with a palette of small numbers so that drawing

@@ -22,6 +22,15 @@ void SessionTest::Pump(int ms) {
   while (!session.Keys().Empty()) session.Loop().DoEvents();
 }
 
+std::vector<std::string> SessionTest::TakeReports() {
+  std::vector<std::string> out;
+  for (const auto& r : session.Records().reports) {
+    out.push_back(r.code ? std::to_string(*r.code) : ToUtf8(r.source) + ": " + ToUtf8(r.text));
+  }
+  session.Records().reports.clear();
+  return out;
+}
+
 void SessionTest::TearDown() {
   if (!HasFailure() || typed_.empty()) return;
   std::cerr << "Key scripts typed in this test:\n";

@@ -24,6 +24,8 @@ class SessionTest : public ::testing::Test {
   void Pump(int ms = 1);
   // The Dessin calls since the last look, one a line ("EffaceRect 0 0 ...").
   std::string TakeLog() { return session.Recorder().TakeLogText(); }
+  // "source: text" of each report since the last look (the number alone for a code).
+  std::vector<std::string> TakeReports();
 
   kit::EnvState& Env() { return session.Env(); }
   forms::Form& Form() { return session.Form(); }
@@ -35,6 +37,15 @@ class SessionTest : public ::testing::Test {
   headless::Session session;
   std::vector<std::string> typed_;
 };
+
+// Sets Left, Top, Width and Height, in that order.
+template <class Shape>
+void Place(Shape& shape, Single left, Single top, Single width, Single height) {
+  shape.SetLeft(left);
+  shape.SetTop(top);
+  shape.SetWidth(width);
+  shape.SetHeight(height);
+}
 
 // Runs `fn`, which must raise the platform error `number`, with the
 // description `text` when one is given. Failures name the caller's line.

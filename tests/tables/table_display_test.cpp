@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <tuple>
 
 #include "display/display_fixture.hpp"
 #include "kit/dessin.hpp"
@@ -27,15 +28,14 @@ TEST_F(TableAutomateTest, TheClientTableGetsItsColumnsCellsAndLines) {
   EXPECT_EQ(drawn["args"][1], "[]");  // the description is consumed
   EXPECT_EQ(drawn["reports"], Json::array());
 
-  EXPECT_EQ(Call("CTab", {"NOM"})["result"], 10);
-  EXPECT_EQ(Call("CTab", {"VILLE   "})["result"], 43);  // trailing blanks do not count
-  EXPECT_EQ(Call("CTab", {"CP"})["result"], 58);
-  EXPECT_EQ(Call("NLTab")["result"], 10);
-  EXPECT_EQ(Call("LTab", {0})["result"], 5);  // the titles' line
-  EXPECT_EQ(Call("LTab", {1})["result"], 6);
-  EXPECT_EQ(Call("LTab", {10})["result"], 15);
-  const Json found = Call("RechIdenTab", {"CP", 0});
-  EXPECT_EQ(found["args"][1], 3);
+  // Trailing blanks do not count; line 0 is the titles'.
+  const std::tuple<const char*, Json, int> calls[] = {
+      {"CTab", {"NOM"}, 10}, {"CTab", {"VILLE   "}, 43}, {"CTab", {"CP"}, 58},
+      {"NLTab", Json::array(), 10}, {"LTab", {0}, 5}, {"LTab", {1}, 6}, {"LTab", {10}, 15}};
+  for (const auto& [method, args, result] : calls) {
+    EXPECT_EQ(Call(method, args)["result"], result) << method << args;
+  }
+  EXPECT_EQ(Call("RechIdenTab", {"CP", 0})["args"][1], 3);
 
   // Room was there (6930 x 4462): no sizing, only the boxes, column by
   // column, the title first. Cells are a pitch high and Larg + 3 columns
@@ -101,8 +101,8 @@ TEST_F(TableTest, ATableTooWideIsReportedAndDrawnAllTheSame) {
   String list = u"[[A,a,110],[B,b,2]]";  // 2 + 113 + 5 = 120 columns on 113
   ky.AffTab(1, list);
   ASSERT_EQ(records->reports.size(), 1u);
-  EXPECT_EQ(records->reports[0].source, u"AFFTAB");
-  EXPECT_EQ(records->reports[0].text, u"Tableau Trop Large : 120");
+  EXPECT_EQ(records->reports[0].source + u": " + records->reports[0].text,
+            u"AFFTAB: Tableau Trop Large : 120");
   // Margin floor((113 - 120) / 2) = -4: the table starts left of the edge.
   EXPECT_EQ(ky.CTab(u"A"), -2);
   EXPECT_EQ(ky.CTab(u"B"), 111);
@@ -137,10 +137,8 @@ TEST_F(TableTest, ColumnsFollowTheirTitlesAndWidthsAsTheRulesSay) {
   EXPECT_EQ(r, 1);
   ky.RechIdenTab(u"Z", r);
   EXPECT_EQ(r, 1);
-  ASSERT_EQ(session.Records().reports.size(), 2u);
-  EXPECT_EQ(session.Records().reports[0].text, u"Identif Inconnu a");
-  EXPECT_EQ(session.Records().reports[1].source, u"RECHIDENTAB");
-  EXPECT_EQ(session.Records().reports[1].text, u"Identif Inconnu Z");
+  EXPECT_EQ(TakeReports(), (std::vector<std::string>{"RECHIDENTAB: Identif Inconnu a",
+                                                     "RECHIDENTAB: Identif Inconnu Z"}));
 }
 
 TEST_F(TableTest, EmptyTablesAndTheFirstLine) {

@@ -17,19 +17,7 @@
 namespace ferlan::tool {
 namespace {
 
-class AutomateTest : public AutomateFixture {
- protected:
-  // The answers of a whole run, one a line.
-  std::vector<Json> Run(const std::string& input) {
-    std::istringstream in(input);
-    std::ostringstream out;
-    EXPECT_TRUE(session.Run(in, out));
-    std::istringstream lines(out.str());
-    std::vector<Json> answers;
-    for (std::string line; std::getline(lines, line);) answers.push_back(Json::parse(line));
-    return answers;
-  }
-};
+using AutomateTest = AutomateFixture;
 
 TEST_F(AutomateTest, CallAnswersResultAndArgumentsAfterTheCall) {
   EXPECT_EQ(session.Handle(R"({"call":"WinLigne","args":[2.5]})"),
@@ -144,9 +132,13 @@ TEST_F(AutomateTest, RecordTableReadsBackAfterDorvi) {
 }
 
 TEST_F(AutomateTest, RunAnswersEveryLineInOrderAndEndsWhenAnAnswerIsLost) {
-  const std::vector<Json> answers =
-      Run("{\"call\":\"WinCol\",\"args\":[3]}\n\n{oops\n" + std::string(kMaxRequestBytes + 1, ' ') +
-          "\n{\"call\":\"NbCol\"}\n");
+  std::istringstream input("{\"call\":\"WinCol\",\"args\":[3]}\n\n{oops\n" +
+                           std::string(kMaxRequestBytes + 1, ' ') + "\n{\"call\":\"NbCol\"}\n");
+  std::ostringstream output;
+  EXPECT_TRUE(session.Run(input, output));
+  std::istringstream lines(output.str());
+  std::vector<Json> answers;
+  for (std::string line; std::getline(lines, line);) answers.push_back(Json::parse(line));
   ASSERT_EQ(answers.size(), 4u) << "a blank line gets no answer";
   EXPECT_EQ(answers[0]["result"], 315);
   EXPECT_EQ(answers[1]["ok"], false);

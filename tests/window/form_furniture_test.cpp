@@ -77,15 +77,14 @@ TEST_F(MessageZoneTest, EffaceZoneMessageOnlyHidesTheZone) {
   EXPECT_EQ(Get("zoneMessage.Visible"), true);
 }
 
-class MessageZonePictureTest : public SessionTest {};
+using MessageZonePictureTest = SessionTest;
 
 TEST_F(MessageZonePictureTest, TheZoneShowsThePictureItselfAndKeepsItWhenHidden) {
   auto picture = std::make_shared<forms::Bitmap>(2, 1, std::vector<forms::Rgb>(2));
-  KySaisie ky;
-  ky.AfficheZoneMessage(picture);
+  KySaisie{}.AfficheZoneMessage(picture);
   auto zone = std::dynamic_pointer_cast<PictureBox>(Form().Member("zoneMessage"));
   EXPECT_EQ(zone->Picture(), picture);
-  ky.EffaceZoneMessage();
+  KySaisie{}.EffaceZoneMessage();
   EXPECT_FALSE(zone->Visible());
   EXPECT_EQ(zone->Picture(), picture);
 }
@@ -93,9 +92,7 @@ TEST_F(MessageZonePictureTest, TheZoneShowsThePictureItselfAndKeepsItWhenHidden)
 // The form's caption and the vertical rules: a column is 105 wide and a line
 // 312 high.
 TEST_F(CaptionTest, TitreComposesTheCaptionWithOnlyTheCompanyTrimmed) {
-  Set({{"Env.DateTitre", " 31/12/2026 "},
-       {"Env.EnteteTexte", "Paie "},
-       {"Env.CodeEnt", " 042 "},
+  Set({{"Env.DateTitre", " 31/12/2026 "}, {"Env.EnteteTexte", "Paie "}, {"Env.CodeEnt", " 042 "},
        {"Env.NomEnt", "  Dupont & Fils   "}});
   Call("Titre", {"Bulletins "});
   EXPECT_EQ(Get("KyF.Caption"),
@@ -158,8 +155,7 @@ TEST_F(WaitingTest, AttentePutsPromptAndFieldOnLine23AndGivesTheScreenBack) {
   const Json before = Screen();
   Log();
   Ok(R"({"keys":"x{Enter}"})");
-  const Json answer = Call("Attente");
-  EXPECT_FALSE(answer.contains("starved"));
+  EXPECT_FALSE(Call("Attente").contains("starved"));
   const Json ops = Log();
   // Saved first, restored last.
   EXPECT_EQ(ops.front(), Json::parse(R"(["MemImage"])"));
@@ -187,8 +183,7 @@ TEST_F(WaitingTest, AttenteGrowsTheSurfaceForItsPromptAndRestoresIt) {
   const Json before = Screen();
   Log();
   Ok(R"({"keys":"{F5}"})");
-  const Json answer = Call("Attente");
-  EXPECT_FALSE(answer.contains("starved"));
+  EXPECT_FALSE(Call("Attente").contains("starved"));
   const Json ops = Log();
   // Room for the prompt and its frame, then the form is recentred.
   EXPECT_EQ(Named(ops, "Largeur")[0], Json::parse(R"(["Largeur",4620,false])"));
@@ -212,8 +207,9 @@ TEST_F(WaitingTest, OnlyALeavingKeyOrAnAbandonEndsTheWait) {
 }
 
 TEST_F(WaitingTest, MessageAttenteAsksTheMessageBoxAndDrawsNothing) {
-  const Json answer = Call("MessageAttente");
-  EXPECT_EQ(answer["boxes"], Json::parse(R"([{"style":"Simple","title":"","text":"Veuillez Taper sur @Entrée@ pour Continuer"}])"));
+  EXPECT_EQ(Call("MessageAttente")["boxes"],
+            Json::parse(R"([{"style":"Simple","title":"","text":)"
+                        R"("Veuillez Taper sur @Entrée@ pour Continuer"}])"));
   EXPECT_EQ(Log(), Json::array());
 }
 

@@ -17,12 +17,7 @@ namespace {
 
 class WindowTest : public SessionTest {
  protected:
-  void SetUp() override {
-    other->SetLeft(5);
-    other->SetTop(6);
-    other->SetWidth(100);
-    other->SetHeight(100);
-  }
+  void SetUp() override { Place(*other, 5, 6, 100, 100); }
   // The surface's inside, its place, and the form's size.
   std::string Layout() {
     std::ostringstream text;
@@ -58,9 +53,7 @@ TEST_F(WindowTest, InitKyFTakesTheFontSizeFromEnvOrElseFromDessin) {
 
 TEST_F(WindowTest, DimensionFeuilleSizesInLinesAndColumnsAndCentres) {
   ky.DimensionFeuille(25);
-  EXPECT_EQ(TakeLog(), "Hauteur 7800 False\nLargeur 8820 False\n");
-  EXPECT_EQ(Zone().ScaleHeight(), ky.WinLigne(25));
-  EXPECT_EQ(Zone().ScaleWidth(), ky.WinCol(84));
+  EXPECT_EQ(TakeLog(), "Hauteur 7800 False\nLargeur 8820 False\n");  // WinLigne(25), WinCol(84)
   // Centred in the form, which did not grow: (11880 - 8880) / 2, (8550 - 7860) / 2.
   EXPECT_EQ(Layout(), "8820x7800 at 1500,345 in 12000x9000");
 
@@ -133,8 +126,7 @@ TEST_F(WindowTest, ACentrageFromInsideACentrageLeavesItsControlUntouched) {
   };
   ky.DimensionFeuille(30, 120);  // grows the form's height and width
   EXPECT_EQ(resizes, 2);
-  EXPECT_EQ(other->Left(), 5.0f);
-  EXPECT_EQ(other->Top(), 6.0f);
+  EXPECT_EQ(std::pair(other->Left(), other->Top()), std::pair(5.0F, 6.0F));
   // The outer call completed, and once it has ended a Centrage runs again.
   EXPECT_EQ(Layout(), "13020x9360 at 0,7.5 in 13200x9885");
   Form().on_resize = nullptr;
@@ -145,8 +137,7 @@ TEST_F(WindowTest, ErrorsInsideCentrageLeaveTheGuardDown) {
   Form().on_resize = [] { throw PlatformError::InvalidCall("resize refused"); };
   ExpectPlatformError([&] { ky.DimensionFeuille(30, 120); }, 5);
   // The height had been set when the handler failed; the width had not.
-  EXPECT_EQ(Form().Height(), 9885.0f);
-  EXPECT_EQ(Form().Width(), 12000.0f);
+  EXPECT_EQ(std::pair(Form().Height(), Form().Width()), std::pair(9885.0F, 12000.0F));
   Form().on_resize = nullptr;
   EXPECT_TRUE(CentresAgain());
 

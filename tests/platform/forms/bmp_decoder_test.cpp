@@ -80,8 +80,7 @@ TEST(BmpDecoderTest, ReadsTwentyFourAndThirtyTwoBitImagesEitherWayUp) {
   auto bmp = DecodeBmp(kHandmade);
   ASSERT_EQ(bmp->PixelWidth(), 3);
   EXPECT_EQ(TopFirst(*bmp), kTopFirst);
-  EXPECT_FLOAT_EQ(bmp->Width(), 45);  // 15 twips a pixel
-  EXPECT_FLOAT_EQ(bmp->Height(), 30);
+  EXPECT_EQ(std::pair(bmp->Width(), bmp->Height()), std::pair(45.0F, 30.0F));  // 15 twips a pixel
   // The same bytes read top first: the rows swap.
   const std::vector<Rgb> swapped = {kTopFirst[3], kTopFirst[4], kTopFirst[5],
                                     kTopFirst[0], kTopFirst[1], kTopFirst[2]};

@@ -27,8 +27,8 @@ class FormTest : public ::testing::Test {
 };
 
 TEST_F(FormTest, InnerSizeResizingAndWindowStates) {
-  EXPECT_FLOAT_EQ(form.ScaleWidth(), 12000 - 120);
-  EXPECT_FLOAT_EQ(form.ScaleHeight(), 9000 - 450);
+  EXPECT_EQ(std::pair(form.ScaleWidth(), form.ScaleHeight()),
+            std::pair(12000.0F - 120, 9000.0F - 450));
   form.SetHeight(9000);  // unchanged
   form.SetLeft(300);     // moved only
   form.SetWidth(100);
@@ -61,8 +61,7 @@ TEST_F(FormTest, MembersByNameInAnyCaseAndTheToolbarDockedAlongTheTop) {
   form.AddMember("BarreOutils", bar);
   form.SetWidth(15000);
   EXPECT_EQ(std::pair(bar->Left(), bar->Top()), std::pair(Single{0}, Single{0}));
-  EXPECT_FLOAT_EQ(bar->Width(), 15000 - 120);
-  EXPECT_FLOAT_EQ(bar->Height(), 420);
+  EXPECT_EQ(std::pair(bar->Width(), bar->Height()), std::pair(15000.0F - 120, 420.0F));
 }
 
 TEST_F(FormTest, PropertiesByNameInAnyCase) {

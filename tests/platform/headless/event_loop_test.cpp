@@ -12,6 +12,24 @@
 namespace ferlan::headless {
 namespace {
 
+void Start(const TimerRef& timer, Long interval_ms) {
+  timer->SetEnabled(true);
+  timer->SetInterval(interval_ms);
+}
+
+// A loop of its own on a form, skipping idle time or stepping 1 ms a call.
+struct OwnLoop {
+  OwnLoop(const std::shared_ptr<forms::Form>& form, bool skip) {
+    loop.SetForm(form);
+    if (skip) loop.SetIdleSkipping([] { return true; });
+  }
+  void Note(const std::string& what) { notes += what + "@" + std::to_string(clock.Now()) + " "; }
+  VirtualClock clock;
+  KeyScript script;
+  EventLoop loop{clock, script};
+  std::string notes;
+};
+
 // A loop alone with a form whose handlers note what they get and when, then
 // zero the key code as a host may (KeyPress comes all the same); its own Abandon.
 class EventLoopTest : public ::testing::Test {
@@ -75,10 +93,8 @@ TEST_F(EventLoopTest, TimersFireOnTheVirtualClockInCreationOrder) {
   TimerRef slow = loop.CreateTimer([&] { Note("slow"); });
   TimerRef fast = loop.CreateTimer([&] { Note("fast"); });
   Pump(3);  // a new timer is stopped
-  slow->SetEnabled(true);
-  slow->SetInterval(500);  // counted from now, 3
-  fast->SetEnabled(true);
-  fast->SetInterval(250);
+  Start(slow, 500);  // counted from now, 3
+  Start(fast, 250);
   Pump(500);
   fast->SetInterval(0);  // stops it
   Pump(900);
@@ -95,8 +111,7 @@ TEST_F(EventLoopTest, OneMsTimerTicksEachDoEventsWithoutReentryTillDropped) {
     ++ticks;
     loop.DoEvents();  // moves the clock but does not run this tick again
   });
-  t->SetEnabled(true);
-  t->SetInterval(1);
+  Start(t, 1);
   Pump(4);
   EXPECT_EQ(ticks, 4);
   EXPECT_EQ(clock.Now(), 8);
@@ -109,31 +124,21 @@ TEST_F(EventLoopTest, OneMsTimerTicksEachDoEventsWithoutReentryTillDropped) {
 // call, for far fewer calls.
 TEST_F(EventLoopTest, SkippingIdleTimeKeepsEveryTimeAndCount) {
   const auto run = [this](bool skip) {
-    VirtualClock run_clock;
-    KeyScript run_script;
-    EventLoop run_loop{run_clock, run_script};
-    std::string notes;
-    const auto note = [&](const std::string& what) {
-      notes += what + "@" + std::to_string(run_clock.Now()) + " ";
-    };
-    form->on_key_press = [&](Integer& a) { note("P" + std::to_string(a)); };
-    run_loop.SetForm(form);
-    run_loop.SetAbandonWriter([&](Boolean v) { note(v ? "abandon" : "resume"); });
-    if (skip) run_loop.SetIdleSkipping([] { return true; });
-    TimerRef fast = run_loop.CreateTimer([&] { note("fast"); });
-    TimerRef slow = run_loop.CreateTimer([&] {
-      note("slow");
-      if (run_clock.Now() < 9000) run_script.Append("{wait:1}s");  // a tick that types
+    OwnLoop own(form, skip);
+    form->on_key_press = [&](Integer& a) { own.Note("P" + std::to_string(a)); };
+    own.loop.SetAbandonWriter([&](Boolean v) { own.Note(v ? "abandon" : "resume"); });
+    TimerRef fast = own.loop.CreateTimer([&] { own.Note("fast"); });
+    TimerRef slow = own.loop.CreateTimer([&] {
+      own.Note("slow");
+      if (own.clock.Now() < 9000) own.script.Append("{wait:1}s");  // a tick that types
     });
-    fast->SetEnabled(true);
-    fast->SetInterval(2500);
-    slow->SetEnabled(true);
-    slow->SetInterval(4000);
-    run_script.Append("{wait:1234}x{wait:3000}{wait:0}y");
-    while (!run_loop.Starved()) run_loop.DoEvents();
+    Start(fast, 2500);
+    Start(slow, 4000);
+    own.script.Append("{wait:1234}x{wait:3000}{wait:0}y");
+    while (!own.loop.Starved()) own.loop.DoEvents();
     fast->SetEnabled(false);
     slow->SetEnabled(false);
-    return std::make_pair(notes, run_loop.Calls());
+    return std::make_pair(own.notes, own.loop.Calls());
   };
   const auto [stepped, stepped_calls] = run(false);
   const auto [skipped, skipped_calls] = run(true);
@@ -148,28 +153,20 @@ TEST_F(EventLoopTest, SkippingIdleTimeKeepsEveryTimeAndCount) {
 // timer 1 ms after it, as with 1 ms steps.
 TEST_F(EventLoopTest, OneMsTimerCoalescesYetSeesEveryChangeAtItsTime) {
   const auto run = [this](bool skip) {
-    VirtualClock run_clock;
-    KeyScript run_script;
-    EventLoop run_loop{run_clock, run_script};
-    run_loop.SetForm(form);
-    if (skip) run_loop.SetIdleSkipping([] { return true; });
-    int blinks = 0;
-    int seen = 0;
-    std::string notes;
-    TimerRef blink = run_loop.CreateTimer([&] { ++blinks; });
-    TimerRef follow = run_loop.CreateTimer([&] {
-      if (seen != blinks) notes += std::to_string(run_clock.Now()) + " ";
+    OwnLoop own(form, skip);
+    int blinks = 0, seen = 0;
+    TimerRef blink = own.loop.CreateTimer([&] { ++blinks; });
+    TimerRef follow = own.loop.CreateTimer([&] {
+      if (seen != blinks) own.notes += std::to_string(own.clock.Now()) + " ";
       seen = blinks;
     });
-    blink->SetEnabled(true);
-    blink->SetInterval(500);
-    follow->SetEnabled(true);
-    follow->SetInterval(1);
-    run_script.Append("{wait:100000}");
-    while (!run_script.Empty()) run_loop.DoEvents();
+    Start(blink, 500);
+    Start(follow, 1);
+    own.script.Append("{wait:100000}");
+    while (!own.script.Empty()) own.loop.DoEvents();
     blink->SetEnabled(false);
     follow->SetEnabled(false);
-    return std::make_pair(notes, run_loop.Calls());
+    return std::make_pair(own.notes, own.loop.Calls());
   };
   const auto [stepped, stepped_calls] = run(false);
   const auto [skipped, skipped_calls] = run(true);
@@ -187,8 +184,7 @@ TEST_F(EventLoopTest, StarvationStaysAtTenSecondsWhileIdleTimeIsSkipped) {
   // A timer set to the 9,999th ms of an empty script sees no starvation yet.
   bool starved_at_9999 = true;
   TimerRef probe = loop.CreateTimer([&] { starved_at_9999 = loop.Starved(); });
-  probe->SetEnabled(true);
-  probe->SetInterval(9999);
+  Start(probe, 9999);
   while (!loop.Starved()) loop.DoEvents();
   EXPECT_FALSE(starved_at_9999);
   EXPECT_EQ(clock.Now(), 10000);
@@ -246,7 +242,7 @@ TEST(KeyScriptTest, RefusesBadScriptsNamingThePlaceAndQueuesNothing) {
         [&] { KeyScript::Parse(c.first); }, 5,
         std::string("Invalid procedure call or argument: key script ") + c.second);
   }
-  KeyScript script;
+  KeyScript script;  // a refused script adds nothing to what is queued
   EXPECT_EQ(script.Append("ab{Left}"), 3u);
   EXPECT_THROW(script.Append("cd{Nope}"), PlatformError);
   EXPECT_EQ(script.Size(), 3u);

@@ -16,8 +16,7 @@ namespace {
 // The result, or which step refused.
 String Calculate(const String& text, String* forme = nullptr) {
   Calcul calcul;
-  String postfix;
-  String result;
+  String postfix, result;
   if (!calcul.Analyse(text, postfix)) return u"not analysed";
   if (forme) *forme = postfix;
   return calcul.Evalue(postfix, result) ? result : u"not evaluated";

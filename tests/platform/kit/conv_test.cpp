@@ -10,7 +10,6 @@
 #include <random>
 #include <string>
 #include <tuple>
-#include <vector>
 
 namespace ferlan::kit {
 namespace {

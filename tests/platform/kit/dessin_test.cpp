@@ -40,8 +40,7 @@ TEST_F(DessinTest, DrawsTextBoxesLinesAndRaisedFramesAndClearsToTheBackColour) {
   dessin_.Efface(zone_);
   env_->CourantY = 777;
   dessin_.Texte(zone_, 210, 312, u"Total", 255);
-  EXPECT_EQ(env_->CourantX, 210 + 5 * 105);
-  EXPECT_EQ(env_->CourantY, 777);
+  EXPECT_EQ(std::pair(env_->CourantX, env_->CourantY), std::pair(210.0F + 5 * 105, 777.0F));
   dessin_.LigneV(zone_, 100, 10, 400, 5);
   dessin_.Pave(zone_, 1, 2, 3, 4, 7);
   dessin_.Pave(zone_, 1, 2, 3, 4, -1);  // -1: nothing

@@ -29,12 +29,7 @@ Long At(const forms::Bitmap& picture, int x, int y) { return ColourOfRgb(picture
 // inside the form so that the form's own back colour shows around it.
 class FormPictureTest : public ::testing::Test {
  protected:
-  FormPictureTest() {
-    surface->SetLeft(300);
-    surface->SetTop(600);
-    surface->SetWidth(9060);
-    surface->SetHeight(6060);
-  }
+  FormPictureTest() { testing::Place(*surface, 300, 600, 9060, 6060); }
   std::shared_ptr<forms::Bitmap> Compose() { return ComposeForm(*form, surface.get()); }
   std::vector<forms::Rgb> Shown() {  // what the surface's canvas shows
     return std::dynamic_pointer_cast<forms::Bitmap>(surface->Image())->Pixels();
@@ -88,16 +83,11 @@ TEST_F(FormPictureTest, ToolbarCaretAndMessageZoneShowOnlyWhenVisible) {
   };
   auto caret = Box("Caret"), zone = Box("zoneMessage");
   caret->SetPicture(DecodePicture(CaretSurchargeImage()));  // 11 x 5, all black
-  caret->SetLeft(1500);
-  caret->SetTop(600);
-  caret->SetWidth(165);
-  caret->SetHeight(75);
+  testing::Place(*caret, 1500, 600, 165, 75);
   // The message zone as AfficheZoneMessage places it: touching the surface's lower edge.
   zone->SetPicture(std::make_shared<forms::Bitmap>(4, 2, std::vector<forms::Rgb>(8, {192, 0, 0})));
-  zone->SetWidth(60);
-  zone->SetHeight(30);
-  zone->SetTop(surface->Top() + surface->Height());
-  zone->SetLeft(surface->Left() + (surface->Width() - zone->Width()) / 2);
+  testing::Place(*zone, surface->Left() + (surface->Width() - 60) / 2,
+                 surface->Top() + surface->Height(), 60, 30);
   const int zx = PixelOfTwips(zone->Left()), zy = PixelOfTwips(zone->Top());
   auto picture = Compose();
   EXPECT_EQ(At(*picture, 100, 5), kFace);
@@ -114,12 +104,12 @@ TEST_F(FormPictureTest, ToolbarCaretAndMessageZoneShowOnlyWhenVisible) {
   EXPECT_NE(At(*picture, 100, 420 / 15 - 1), kFace);
   EXPECT_EQ(At(*picture, 100, 420 / 15), kFace);
   EXPECT_EQ(black(*picture), 11 * 5);
-  EXPECT_EQ(At(*picture, kOx + 100, kOy + 40), 0);
-  EXPECT_EQ(At(*picture, kOx + 110, kOy + 44), 0);
-  EXPECT_EQ(At(*picture, kOx + 99, kOy + 40), kWhite);
-  EXPECT_EQ(At(*picture, zx, zy), 0x000000C0);
-  EXPECT_EQ(At(*picture, zx + 3, zy + 1), 0x000000C0);
-  EXPECT_EQ(At(*picture, zx + 4, zy), kFace);
+  EXPECT_EQ(std::tuple(At(*picture, kOx + 100, kOy + 40), At(*picture, kOx + 110, kOy + 44),
+                       At(*picture, kOx + 99, kOy + 40)),
+            std::tuple(0, 0, kWhite));  // the caret's corners and the ground left of it
+  EXPECT_EQ(
+      std::tuple(At(*picture, zx, zy), At(*picture, zx + 3, zy + 1), At(*picture, zx + 4, zy)),
+      std::tuple(0x000000C0, 0x000000C0, kFace));  // the zone's corners and right of it
 
   // The caret's picture is stretched to the control's width, as wide as a letter.
   caret->SetWidth(135);
@@ -133,17 +123,14 @@ TEST_F(FormPictureTest, HostPictureControlsShowAsChildrenOfTheSurface) {
   auto photo = session.NewPictureBox();
   photo->SetPicture(
       std::make_shared<forms::Bitmap>(4, 3, std::vector<forms::Rgb>(12, {0, 128, 0})));
-  photo->SetWidth(60);
-  photo->SetHeight(45);
+  testing::Place(*photo, 1500, 600, 60, 45);
   photo->SetVisible(false);
-  photo->SetLeft(1500);
-  photo->SetTop(600);
   EXPECT_EQ(At(*Compose(), kOx + 100, kOy + 40), kWhite);
   photo->SetVisible(true);
   auto picture = Compose();
-  EXPECT_EQ(At(*picture, kOx + 100, kOy + 40), 0x00008000);
-  EXPECT_EQ(At(*picture, kOx + 103, kOy + 42), 0x00008000);
-  EXPECT_EQ(At(*picture, kOx + 104, kOy + 40), kWhite);
+  EXPECT_EQ(std::tuple(At(*picture, kOx + 100, kOy + 40), At(*picture, kOx + 103, kOy + 42),
+                       At(*picture, kOx + 104, kOy + 40)),
+            std::tuple(0x00008000, 0x00008000, kWhite));  // its corners, and right of it
   EXPECT_EQ(ChildRect(*photo, *surface), (PixelRect{kOx + 100, kOy + 40, 4, 3}));
   // Past the surface's right edge it is cut there.
   photo->SetLeft(599 * 15);

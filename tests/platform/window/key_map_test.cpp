@@ -30,11 +30,10 @@ TEST(KeyMapTest, VirtualKeysFollowTheLayoutForLettersAndThePositionElsewhere) {
 }
 
 TEST(KeyMapTest, ModifiersGiveTheShiftMaskWithAltGrAsCtrlAlt) {
-  EXPECT_EQ(ShiftMaskOf(KMOD_NUM | KMOD_CAPS), 0);
-  EXPECT_EQ(ShiftMaskOf(KMOD_LCTRL | KMOD_LSHIFT), 3);
-  EXPECT_EQ(ShiftMaskOf(KMOD_LALT), 4);
-  EXPECT_EQ(ShiftMaskOf(KMOD_RALT), 6);
-  EXPECT_EQ(ShiftMaskOf(KMOD_MODE | KMOD_SHIFT), 7);
+  for (const auto& [mod, mask] : {std::pair(KMOD_NUM | KMOD_CAPS, 0), {KMOD_LCTRL | KMOD_LSHIFT, 3},
+                                  {KMOD_LALT, 4}, {KMOD_RALT, 6}, {KMOD_MODE | KMOD_SHIFT, 7}}) {
+    EXPECT_EQ(ShiftMaskOf(static_cast<unsigned>(mod)), mask) << mod;
+  }
   // Shift and AltGr type text; Ctrl or Alt alone do not.
   for (const Integer mask : {0, 1, 6}) EXPECT_TRUE(TextReachesKeyPress(mask)) << mask;
   for (const Integer mask : {2, 4, 5}) EXPECT_FALSE(TextReachesKeyPress(mask)) << mask;

@@ -22,19 +22,7 @@
 namespace ferlan::testing {
 namespace {
 
-class WindowTest : public XvfbTest {
- protected:
-  // Types `keys` (xdotool commands, in order) into the window from another
-  // thread.
-  static std::thread Typist(unsigned long id, std::vector<std::string> keys) {
-    return std::thread([id, keys = std::move(keys)] {
-      const std::string w = std::to_string(id);
-      Xdotool("mousemove --window " + w + " 30 30");
-      Xdotool("windowfocus --sync " + w);
-      for (const std::string& k : keys) Xdotool(k);
-    });
-  }
-};
+using WindowTest = XvfbTest;
 
 // Lets the window map and show its first frames.
 void Settle(window::Window& window, int ms = 300) {
@@ -58,6 +46,15 @@ TimerRef Once(headless::Session& session, Long after_ms, std::function<void()> o
 std::string ReadFile(const std::string& path) {
   std::ifstream in(path);
   return {std::istreambuf_iterator<char>(in), {}};
+}
+
+// The window's session, with a form of 12 lines of 60 columns shown.
+std::unique_ptr<headless::Session> Open(window::Window& window) {
+  auto session = window.OpenSession();
+  KySaisie{}.InitKyF();
+  KySaisie{}.DimensionFeuille(12, 60);
+  Settle(window);
+  return session;
 }
 
 int Ink(std::uint32_t pixel, std::uint32_t ground) {
@@ -87,12 +84,9 @@ int DifferingPixels(const std::vector<std::uint32_t>& shot, int width, int heigh
 
 TEST_F(WindowTest, APersonTypesAFieldAndTheWindowShowsIt) {
   window::Window window("Ferlan test");
-  auto session = window.OpenSession();
+  auto session = Open(window);
   KySaisie k;
-  k.InitKyF();
-  k.DimensionFeuille(12, 60);
   k.Affiche(3, 2, u"I", u"Nom");
-  Settle(window);
   const unsigned long id = window.NativeHandle();
   ASSERT_NE(id, 0u);
 
@@ -118,8 +112,12 @@ TEST_F(WindowTest, APersonTypesAFieldAndTheWindowShowsIt) {
   // Ctrl+arrow back to the start of a word, and F2 to leave.
   std::thread typist;
   TimerRef start = Once(*session, 50, [&] {
-    typist = Typist(id, {"type --delay 30 'Zoé Durand'", "key --delay 30 ctrl+Left",
-                         "type --delay 30 'M '", "key F2"});
+    typist = std::thread([w = std::to_string(id)] {
+      const std::string keys[] = {"mousemove --window " + w + " 30 30", "windowfocus --sync " + w,
+                                  "type --delay 30 'Zoé Durand'", "key --delay 30 ctrl+Left",
+                                  "type --delay 30 'M '", "key F2"};
+      for (const std::string& key : keys) Xdotool(key);
+    });
   });
   TimerRef guard = Once(*session, 20000, [&] { session->Env().Abandon = true; });
   String m;
@@ -169,11 +167,8 @@ TEST_F(WindowTest, APersonTypesAFieldAndTheWindowShowsIt) {
 
 TEST_F(WindowTest, ClosingTheWindowAbandonsTheWaitAndTheSession) {
   window::Window window("Ferlan test");
-  auto session = window.OpenSession();
+  auto session = Open(window);
   KySaisie k;
-  k.InitKyF();
-  k.DimensionFeuille(12, 60);
-  Settle(window);
   const unsigned long id = window.NativeHandle();
   TimerRef close = Once(*session, 50, [&] { AskToClose(id); });
   TimerRef guard = Once(*session, 20000, [&] { session->Env().Abandon = true; });
@@ -216,8 +211,8 @@ TEST_F(WindowTest, TheFormAndTheWindowFollowEachOther) {
   XFree(name);
   XWindowAttributes attributes;
   XGetWindowAttributes(display_, id, &attributes);
-  EXPECT_EQ(attributes.width, (9000 - 120) / 15);
-  EXPECT_EQ(attributes.height, (6450 - 450) / 15);
+  EXPECT_EQ(std::pair(attributes.width, attributes.height),
+            std::pair((9000 - 120) / 15, (6450 - 450) / 15));
 
   // Left and Top place the window.
   form.SetLeft(1500);
@@ -231,24 +226,22 @@ TEST_F(WindowTest, TheFormAndTheWindowFollowEachOther) {
   // The window manager's doings reach the form; maximised, it has the work
   // area.
   const int before = resized;
-  SDL_Event event{};
-  event.type = SDL_WINDOWEVENT;
-  event.window.event = SDL_WINDOWEVENT_MAXIMIZED;
-  SDL_PushEvent(&event);
-  window.Loop().DoEvents();
+  const auto manager = [&](Uint8 what, int width = 0, int height = 0) {
+    SDL_Event event{};
+    event.type = SDL_WINDOWEVENT;
+    event.window.event = what;
+    event.window.data1 = width;
+    event.window.data2 = height;
+    SDL_PushEvent(&event);
+    window.Loop().DoEvents();
+  };
+  manager(SDL_WINDOWEVENT_MAXIMIZED);
   EXPECT_EQ(form.WindowState(), 2);
   EXPECT_EQ(std::pair(form.Width(), form.Height()), std::pair(1280.0F * 15, 1000.0F * 15));
-  event.window.event = SDL_WINDOWEVENT_RESTORED;
-  SDL_PushEvent(&event);
-  window.Loop().DoEvents();
+  manager(SDL_WINDOWEVENT_RESTORED);
   EXPECT_EQ(form.WindowState(), 0);
-  event.window.event = SDL_WINDOWEVENT_SIZE_CHANGED;
-  event.window.data1 = 700;
-  event.window.data2 = 500;
-  SDL_PushEvent(&event);
-  window.Loop().DoEvents();
-  EXPECT_EQ(form.ScaleWidth(), 700 * 15);
-  EXPECT_EQ(form.ScaleHeight(), 500 * 15);
+  manager(SDL_WINDOWEVENT_SIZE_CHANGED, 700, 500);
+  EXPECT_EQ(std::pair(form.ScaleWidth(), form.ScaleHeight()), std::pair(700.0F * 15, 500 * 15.0F));
   EXPECT_GE(resized - before, 3);
 
   // The system's clipboard, both ways.
@@ -272,16 +265,14 @@ TEST_F(WindowTest, RunPlaysASessionInAWindow) {
   const std::string out = ::testing::TempDir() + "ferlan_run_test.out";
   std::thread closer([&] {
     // The window stays up once the requests are played, until it closes.
-    for (int i = 0; i < 100 && !Xdotool("search --name '^Ferlan$'"); ++i) {
+    unsigned long id = 0;
+    for (int i = 0; i < 100 && id == 0; ++i) {
       std::this_thread::sleep_for(std::chrono::milliseconds(100));
+      FILE* p = popen("xdotool search --name '^Ferlan$' 2>/dev/null", "r");
+      if (p != nullptr && std::fscanf(p, "%lu", &id) != 1) id = 0;
+      if (p != nullptr) pclose(p);
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(500));
-    FILE* p = popen("xdotool search --name '^Ferlan$' 2>/dev/null", "r");
-    unsigned long id = 0;
-    if (p != nullptr) {
-      if (std::fscanf(p, "%lu", &id) != 1) id = 0;
-      pclose(p);
-    }
     if (id != 0) AskToClose(id);
   });
   const int status = std::system((std::string(FERLAN_CLI) + " run " + file + " > " + out).c_str());
