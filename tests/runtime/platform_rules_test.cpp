@@ -173,7 +173,7 @@ TEST(AssertTest, ABrokenInvariantAbortsWithItsPlaceInDebugBuildsOnly) {
         Apartment inner{ClassRegistry{}};
         outer.reset();
       },
-      "FERLAN_ASSERT\\(current_state == state_.get\\(\\)\\) failed");
+      "FERLAN_ASSERT\\(current_apartment_state == state_.get\\(\\)\\) failed");
 #else
   int evaluated = 0;
   FERLAN_ASSERT(++evaluated == 5);
