@@ -41,6 +41,7 @@ TEST_F(AutomateTest, BadRequestsAreRefusedWithTheirNumberAndTheSessionGoesOn) {
       {R"({"call":"FormatDate","args":[{"u16":[4294967361]},"D"]})", 13},
       {R"({"call":"FormatDate","args":[{"u16":[-1]},"D"]})", 13}, {nul_path, 5},
       {R"({"reset":true,"call":"NbCol"})", 5}, {R"({"call":"NbCol","call":"NbLigne"})", 5},
+      {R"({"reset":false})", 5}, {R"({"log":0})", 5},
       {R"({"get":["Env.CourantX"],"args":[]})", 5},
       {R"({"call":"WinLigne","args":[{"obj":"KyF","obj":"x"}]})", 5},
       {R"({"new":{"name":"a\u0000b"}})", 5},

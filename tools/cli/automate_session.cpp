@@ -59,6 +59,11 @@ std::string FileName(const Json& value, const std::string& what) {
   return name;
 }
 
+// `log` and `reset` take true alone: {"reset":false} must not wipe the session.
+void RequireTrue(const Json& request, const char* key) {
+  if (request[key] != true) throw BadRequest(std::string(key) + ": the value is true");
+}
+
 Json ReportsOf(const kit::Records& records) {
   Json out = Json::array();
   for (std::size_t i = 0; i < records.reports.size(); ++i) {
@@ -182,12 +187,14 @@ std::string AutomateSession::Handle(std::string_view line) {
         answer = New(request);
         break;
       case Kind::Log:
+        RequireTrue(request, "log");
         answer = Log();
         break;
       case Kind::Png:
         answer = Png(request);
         break;
       case Kind::Reset:
+        RequireTrue(request, "reset");
         Reset();
         answer = Json{{"ok", true}};
         break;
