@@ -180,7 +180,8 @@ TEST_F(PictureObjectTest, AFileBecomesAPictureControlForImageAD) {
 
 TEST_F(PictureObjectTest, MissingOrBadFilesGiveClearErrors) {
   std::ofstream(dir / "text.bmp") << "not a picture";
-  for (const std::string& file : {(dir / "none.bmp").string(), (dir / "text.bmp").string()}) {
+  for (const std::string& file :
+       {(dir / "none.bmp").string(), (dir / "text.bmp").string(), dir.string()}) {
     const Json answer = Ask(R"({"new":{"name":"p","kind":"Picture","file":")" + file + "\"}}");
     EXPECT_EQ(answer["ok"], false);
     EXPECT_EQ(answer["error"]["number"], 5);

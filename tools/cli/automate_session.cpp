@@ -329,7 +329,10 @@ Json AutomateSession::New(const Json& request) {
     throw BadRequest("new: \"" + name + "\" names an object of the session");
   }
   if (order.contains("set") && !order["set"].is_object()) throw BadRequest("new: set is an object");
-  if (order.contains("file")) FileName(order["file"], "new");
+  if (order.contains("file")) {
+    FileName(order["file"], "new");
+    if (kind != "Picture") throw BadRequest("new: only a Picture is read from a file");
+  }
   // The object gets its name only once every property is set, so a failing
   // request leaves the name as it was.
   const ObjectRef previous = named_.contains(name) ? named_[name] : nullptr;
