@@ -189,6 +189,7 @@ TEST_F(PictureObjectTest, MissingOrBadFilesGiveClearErrors) {
         << answer.dump();
   }
   EXPECT_EQ(Ask(R"({"new":{"name":"p","kind":"Picture"}})")["error"]["number"], 5);
+  EXPECT_EQ(Ask(R"({"new":{"name":"p","file":"x.bmp"}})")["error"]["number"], 5);
   EXPECT_EQ(Ask(R"({"call":"ImageSD","args":["X",null]})")["error"]["number"], 91);
 }
 
@@ -228,6 +229,11 @@ TEST(FarDrawingTest, AFormTooLargeForAPictureIsAnErrorAndTheSessionGoesOn) {
   EXPECT_EQ(answer["ok"], false);
   EXPECT_EQ(answer["error"]["number"], 51);
   EXPECT_EQ(Json::parse(session.Handle(R"({"call":"WinLigne","args":[1]})"))["ok"], true);
+  // A control whose image cannot grow keeps the size of the image it has.
+  const Json grown = Json::parse(session.Handle(R"({"set":{"ZoneAff.Height":1e9}})"));
+  EXPECT_EQ(grown["error"]["number"], 51);
+  EXPECT_EQ(Json::parse(session.Handle(R"({"get":["ZoneAff.Height"]})"))["values"]["ZoneAff.Height"],
+            8550);
 }
 
 }  // namespace
