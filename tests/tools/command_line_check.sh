@@ -21,6 +21,9 @@ for wrong in "" bogus "methods extra" "automate --bogus" "--help extra"; do
   [ "$status" -eq 2 ] || fail "ferlan $wrong exits $status, not 2"
   [ -z "$out" ] || fail "ferlan $wrong writes on standard output"
 done
+for ask in methods --help --version; do
+  "$ferlan" $ask >/dev/full 2>/dev/null && fail "ferlan $ask ignores a full output"
+done
 echo '{"call":"NbCol"}' | "$ferlan" automate >/dev/full 2>/dev/null && fail "a full output is ignored"
 echo '{"call":"NbCol"}' | "$ferlan" automate >&- 2>/dev/null && fail "a closed output is ignored"
 # With SIGPIPE ignored and the reader gone, the session ends by itself.

@@ -43,7 +43,8 @@ int main(int argc, char** argv) {
   }
   if (command == "methods" && argc == 2) {
     PrintMethods(std::cout);
-    return 0;
+    std::cout << std::flush;
+    return std::cout ? 0 : 1;
   }
   if (command == "automate") {
     std::string_view surface_name = "fixed";
