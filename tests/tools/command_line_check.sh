@@ -21,6 +21,9 @@ for wrong in "" bogus "methods extra" "automate --bogus" "--help extra"; do
   [ "$status" -eq 2 ] || fail "ferlan $wrong exits $status, not 2"
   [ -z "$out" ] || fail "ferlan $wrong writes on standard output"
 done
+# A directory is no file to play, display or not.
+err=$("$ferlan" run / 2>&1 >/dev/null); status=$?
+[ "$status" -eq 2 ] && grep -q "cannot read" <<<"$err" || fail "ferlan run / exits $status: $err"
 for ask in methods --help --version; do
   "$ferlan" $ask >/dev/full 2>/dev/null && fail "ferlan $ask ignores a full output"
 done
