@@ -40,6 +40,7 @@ TEST_F(AutomateTest, BadRequestsAreRefusedWithTheirNumberAndTheSessionGoesOn) {
       {R"({"frobnicate":1})", 5}, {R"({"png":"x.png"})", 5},
       {R"({"call":"FormatDate","args":[{"u16":[4294967361]},"D"]})", 13},
       {R"({"call":"FormatDate","args":[{"u16":[-1]},"D"]})", 13}, {nul_path, 5},
+      {std::string(R"({"call":"NbCol"})") + '\0' + "x", 5},
       {R"({"reset":true,"call":"NbCol"})", 5}, {R"({"call":"NbCol","call":"NbLigne"})", 5},
       {R"({"reset":false})", 5}, {R"({"log":0})", 5},
       {R"({"get":["Env.CourantX"],"args":[]})", 5},
