@@ -47,7 +47,7 @@ TEST_F(AutomateTest, BadRequestsAreRefusedWithTheirNumberAndTheSessionGoesOn) {
       {R"({"call":"WinLigne","args":[{"obj":"KyF","obj":"x"}]})", 5},
       {R"({"new":{"name":"a\u0000b"}})", 5},
       {R"({"new":{"name":"p","kind":"Picture","file":"a\u0000b.bmp"}})", 5},
-      {R"({"new":{"name":"Env"}})", 5},
+      {R"({"new":{"name":"Env"}})", 5}, {R"({"new":{"name":"Rub"}})", 5},
       // The record table: read-only, by record number and field name.
       {R"({"get":["Rub.41.L"]})", 9}, {R"({"get":["Rub.-1.L"]})", 9},
       {R"({"get":["Rub.1.Nope"]})", 438}, {R"({"get":["Rub.1"]})", 438},

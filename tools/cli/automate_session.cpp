@@ -59,6 +59,18 @@ std::string FileName(const Json& value, const std::string& what) {
   return name;
 }
 
+// Names that get, set and {"obj":...} take for the session's own objects
+// and values, whatever `new` made: an object of one of these names could not
+// be reached (Rub.1.Width is the record table, Clipboard its text, ZoneAff
+// the surface also when Env.ZoneAff is Nothing).
+bool IsSessionName(const std::string& name) {
+  for (const char* n : {"KyF", "Form", "ZoneAff", "Env", "BarreOutils", "Caret", "zoneMessage",
+                        "ClavierKY", "Clipboard", "NbRub", "Rub"}) {
+    if (name == n) return true;
+  }
+  return false;
+}
+
 // `log` and `reset` take true alone: {"reset":false} must not wipe the session.
 void RequireTrue(const Json& request, const char* key) {
   if (request[key] != true) throw BadRequest(std::string(key) + ": the value is true");
@@ -325,7 +337,7 @@ Json AutomateSession::New(const Json& request) {
   if (name.empty() || name.find_first_of(std::string(".\0", 2)) != std::string::npos) {
     throw BadRequest("new: a name is not empty and holds no point and no NUL");
   }
-  if (ObjectNamed(name) && !named_.contains(name)) {
+  if (IsSessionName(name)) {
     throw BadRequest("new: \"" + name + "\" names an object of the session");
   }
   if (order.contains("set") && !order["set"].is_object()) throw BadRequest("new: set is an object");
