@@ -90,6 +90,7 @@ TEST_F(AutomateTest, GetSetNewLogAndResetAndAFailingSetChangesNothing) {
   EXPECT_EQ(Ask(R"({"log":true})")["ops"], Json::array());
   Ask(R"({"reset":true})");
   EXPECT_EQ(Get("Env.ToucheEntree"), 13);
+  EXPECT_EQ(Get("Env"), Json::parse(R"({"obj":"Env"})")) << "an object is answered by its name";
   EXPECT_EQ(Ask(R"({"get":["pic.Width"]})")["ok"], false);
 
   EXPECT_EQ(Ask(R"({"set":{"Env.ToucheEntree":10,"Clipboard":"new","Env.Nope":1}})")["error"]["number"],

@@ -143,16 +143,19 @@ AutomateSession::~AutomateSession() = default;
 
 void AutomateSession::Reset() {
   named_.clear();
+  env_object_.reset();
   session_.reset();  // the old apartment ends before the new one begins
   if (factory_) {
     session_ = factory_();
-    return;
-  }
-  session_ = std::make_unique<headless::Session>(CanvasFor(surface_));
+  } else {
+    session_ = std::make_unique<headless::Session>(CanvasFor(surface_));
 #if FERLAN_HAVE_RASTER
-  // PNG decoding is the raster back-end's; BMP the forms runtime reads itself.
-  if (surface_ == SurfaceKind::Raster) session_->Global().SetPngDecoder(raster::DecodePng);
+    // PNG decoding is the raster back-end's; BMP the forms runtime reads itself.
+    if (surface_ == SurfaceKind::Raster) session_->Global().SetPngDecoder(raster::DecodePng);
 #endif
+  }
+  // One object for the session, so that an answer names it as it was given.
+  env_object_ = session_->EnvObject();
 }
 
 bool AutomateSession::Run(std::istream& in, std::ostream& out) {
@@ -393,7 +396,7 @@ Json AutomateSession::Png(const Json& request) {
 ObjectRef AutomateSession::ObjectNamed(const std::string& name) {
   if (name == "KyF" || name == "Form") return session_->FormRef();
   if (name == "ZoneAff") return session_->Env().surface;
-  if (name == "Env") return session_->EnvObject();
+  if (name == "Env") return env_object_;
   if (auto it = named_.find(name); it != named_.end()) return it->second;
   if (name == "BarreOutils" || name == "Caret" || name == "zoneMessage" || name == "ClavierKY") {
     return session_->Form().Member(name);
@@ -403,7 +406,7 @@ ObjectRef AutomateSession::ObjectNamed(const std::string& name) {
 
 std::string AutomateSession::NameOf(const ObjectRef& object) {
   if (!object) return {};
-  for (const char* n : {"KyF", "ZoneAff", "BarreOutils", "Caret", "zoneMessage", "ClavierKY"}) {
+  for (const char* n : {"KyF", "ZoneAff", "Env", "BarreOutils", "Caret", "zoneMessage", "ClavierKY"}) {
     try {
       if (ObjectNamed(n) == object) return n;
     } catch (const PlatformError&) {
