@@ -27,6 +27,7 @@ err=$("$ferlan" run / 2>&1 >/dev/null); status=$?
 for ask in methods --help --version; do
   "$ferlan" $ask >/dev/full 2>/dev/null && fail "ferlan $ask ignores a full output"
 done
+"$ferlan" automate </ >/dev/null 2>&1 && fail "an input that cannot be read ends automate with 0"
 echo '{"call":"NbCol"}' | "$ferlan" automate >/dev/full 2>/dev/null && fail "a full output is ignored"
 echo '{"call":"NbCol"}' | "$ferlan" automate >&- 2>/dev/null && fail "a closed output is ignored"
 # With SIGPIPE ignored and the reader gone, the session ends by itself.
