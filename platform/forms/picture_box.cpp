@@ -40,20 +40,35 @@ PictureBox::PictureBox(std::unique_ptr<Canvas> canvas) : canvas_(std::move(canva
   canvas_->Clear(back_color_);
 }
 
+// A canvas that cannot take the new size (too large an image) keeps its old
+// one, and so does the control: its size always is its canvas's.
+template <class Undo>
+void PictureBox::ResizeCanvasOrUndo(Undo undo) {
+  try {
+    ResizeCanvas();
+  } catch (...) {
+    undo();
+    throw;
+  }
+}
+
 void PictureBox::SetWidth(Single v) {
+  const Single old = Width();
   Placed::SetWidth(v);
-  ResizeCanvas();
+  ResizeCanvasOrUndo([&] { Placed::SetWidth(old); });
 }
 
 void PictureBox::SetHeight(Single v) {
+  const Single old = Height();
   Placed::SetHeight(v);
-  ResizeCanvas();
+  ResizeCanvasOrUndo([&] { Placed::SetHeight(old); });
 }
 
 void PictureBox::SetBorderStyle(Integer style) {
   if (style != 0 && style != 1) throw PlatformError::InvalidCall("BorderStyle");
+  const Integer old = border_style_;
   border_style_ = style;
-  ResizeCanvas();
+  ResizeCanvasOrUndo([&] { border_style_ = old; });
 }
 
 Single PictureBox::Border() const { return border_style_ == 1 ? kFixedSingleBorder : 0; }

@@ -74,6 +74,8 @@ class PictureBox final : public Placed<ferlan::PictureBox> {
 
  private:
   void ResizeCanvas();
+  template <class Undo>
+  void ResizeCanvasOrUndo(Undo undo);
 
   std::unique_ptr<Canvas> canvas_;
   std::shared_ptr<forms::Font> font_ = std::make_shared<forms::Font>();

@@ -61,6 +61,7 @@ void FixedCanvas::Clear(Long colour) {
   ops_.clear();
   Reindex();
   dropped_ = 0;
+  text_units_ = 0;
 }
 
 void FixedCanvas::FillBox(Single x1, Single y1, Single x2, Single y2, Long colour) {
@@ -104,6 +105,7 @@ void FixedCanvas::Text(Single x, Single y, StringView text, const forms::FontSpe
   }
   op.text.assign(text);
   op.font = font;
+  text_units_ += text.size();
   Added();
 }
 
@@ -125,6 +127,8 @@ void FixedCanvas::Paint(const Picture& picture, Single x, Single y) {
     gone_.clear();
     ops_ = list->Ops();
     Reindex();
+    text_units_ = 0;
+    for (const DrawOp& op : ops_) text_units_ += op.text.size();
     return;
   }
   AddShape(DrawOp::Kind::FillBox, x, y, right, bottom, list->Background());
@@ -156,18 +160,15 @@ void FixedCanvas::AddShape(DrawOp::Kind kind, Single x1, Single y1, Single x2, S
 }
 
 void FixedCanvas::Add(DrawOp op) {
+  text_units_ += op.text.size();
   ops_.push_back(std::move(op));
   Added();
 }
 
 void FixedCanvas::Added() {
   // Trimmed by a quarter at a time, so that each item costs a constant share.
-  if (Live() > kOpsLimit + kOpsLimit / 4) {
-    Compact();
-    const std::size_t excess = ops_.size() - kOpsLimit;
-    ops_.erase(ops_.begin(), ops_.begin() + static_cast<std::ptrdiff_t>(excess));
-    dropped_ += excess;
-    Reindex();
+  if (Live() > kOpsLimit + kOpsLimit / 4 || text_units_ > kTextLimit) {
+    Trim();
     return;
   }
   Index(ops_.back());
@@ -179,6 +180,22 @@ void FixedCanvas::Added() {
   if (by_bottom_.size() > Live() + 64) {
     std::erase_if(by_bottom_, [](const auto& edge) { return edge.second.empty(); });
   }
+}
+
+void FixedCanvas::Trim() {
+  Compact();
+  std::size_t excess = ops_.size() > kOpsLimit ? ops_.size() - kOpsLimit : 0;
+  std::size_t units = 0;
+  for (std::size_t i = excess; i < ops_.size(); ++i) units += ops_[i].text.size();
+  // A few long texts weigh as much as many items: the oldest go till a
+  // quarter of the room is free, so the next trim is that far off.
+  while (units > kTextLimit / 4 * 3 && excess + 1 < ops_.size()) {
+    units -= ops_[excess++].text.size();
+  }
+  ops_.erase(ops_.begin(), ops_.begin() + static_cast<std::ptrdiff_t>(excess));
+  dropped_ += excess;
+  text_units_ = units;
+  Reindex();
 }
 
 void FixedCanvas::Index(const DrawOp& op) {

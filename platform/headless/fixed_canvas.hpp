@@ -65,6 +65,10 @@ class FixedCanvas final : public forms::Canvas {
   static constexpr double kHeightPerPoint = 19.5;
   static constexpr double kWidthPerPoint = 10.5;
   static constexpr std::size_t kOpsLimit = 10000;
+  // UTF-16 units of text the list keeps at most, however long the texts:
+  // past it the oldest items go, down to three quarters of it (the latest
+  // item always stays).
+  static constexpr std::size_t kTextLimit = std::size_t{1} << 22;
 
   Single TextWidth(StringView text, const forms::FontSpec& font) override;
   Single TextHeight(StringView text, const forms::FontSpec& font) override;
@@ -100,6 +104,8 @@ class FixedCanvas final : public forms::Canvas {
   // the list within its limit.
   DrawOp& Append(DrawOp::Kind kind, Single x1, Single y1, Single x2, Single y2, Long colour);
   void Added();
+  // Forgets the oldest items over kOpsLimit or kTextLimit and counts them.
+  void Trim();
   // The index of bottoms made again from ops_ (after it is replaced or cut).
   void Reindex();
   void Index(const DrawOp& op);
@@ -117,6 +123,9 @@ class FixedCanvas final : public forms::Canvas {
   // Mutable: the list is compacted when it is read (see gone_).
   mutable std::vector<DrawOp> ops_;
   std::size_t dropped_ = 0;
+  // At least the units of the texts in ops_: items covered and taken out
+  // are counted again only when the list is trimmed.
+  std::size_t text_units_ = 0;
   // Each item of ops_ has a number, rising in the order of the list, so that
   // the index below outlives the moves of items inside ops_.
   mutable std::vector<std::uint64_t> ids_;

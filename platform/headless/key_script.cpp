@@ -14,10 +14,14 @@ class Parser {
  public:
   explicit Parser(std::string_view utf8) : text_(FromUtf8(utf8)) {}
 
-  std::vector<KeyItem> Run() {
+  std::vector<KeyItem> Run(std::size_t limit) {
     std::vector<KeyItem> items;
     while (at_ < text_.size()) {
       const std::size_t start = at_;
+      if (items.size() == limit) {
+        Fail(start, "the queue holds at most " + std::to_string(KeyScript::kMaxQueued) +
+                        " items waiting");
+      }
       KeyItem item = Next();
       item.source = ToUtf8(StringView(text_).substr(start, at_ - start));
       items.push_back(std::move(item));
@@ -181,10 +185,13 @@ std::string Describe(const KeyItem& item) {
   return s;
 }
 
-std::vector<KeyItem> KeyScript::Parse(std::string_view script) { return Parser(script).Run(); }
+std::vector<KeyItem> KeyScript::Parse(std::string_view script, std::size_t limit) {
+  return Parser(script).Run(limit);
+}
 
 std::size_t KeyScript::Append(std::string_view script) {
-  std::vector<KeyItem> parsed = Parse(script);
+  // Checked while parsing, so a script too long costs no more than the room left.
+  std::vector<KeyItem> parsed = Parse(script, kMaxQueued - items_.size());
   items_.insert(items_.end(), parsed.begin(), parsed.end());
   return parsed.size();
 }

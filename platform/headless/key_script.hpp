@@ -61,12 +61,18 @@ std::string Describe(const KeyItem& item);
 
 class KeyScript {
  public:
+  // Items waiting at most: what nobody reads costs bounded memory.
+  static constexpr std::size_t kMaxQueued = 100'000;
+
   // The items of a whole script, UTF-8. Errors: 5 naming the position (a
-  // count of characters from 1) and the fault.
-  static std::vector<KeyItem> Parse(std::string_view script);
+  // count of characters from 1) and the fault, also the first item past
+  // `limit`.
+  static std::vector<KeyItem> Parse(std::string_view script,
+                                    std::size_t limit = static_cast<std::size_t>(-1));
 
   // Parses `script` and queues its items after those waiting; gives how many
-  // were queued. A bad script queues nothing.
+  // were queued. A bad script, or one that would bring the items waiting
+  // past kMaxQueued, queues nothing.
   std::size_t Append(std::string_view script);
 
   bool Empty() const { return items_.empty(); }

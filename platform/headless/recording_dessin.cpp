@@ -1,5 +1,6 @@
 #include "headless/recording_dessin.hpp"
 
+#include <algorithm>
 #include <type_traits>
 
 namespace ferlan::headless {
@@ -34,10 +35,17 @@ std::vector<DessinCall> RecordingDessin::TakeLog() {
   std::vector<DessinCall> taken;
   taken.reserve(count_);
   for (std::size_t i = 0; i < count_; ++i) taken.push_back(ToCall(slots_[(head_ + i) % slots_.size()]));
-  // The slots stay, with their texts' room, for the calls to come.
+  // The slots stay, with their texts' room, for the calls to come; the
+  // room of a long text does not.
+  for (Entry& entry : slots_) {
+    for (String& text : entry.texts) {
+      if (text.capacity() > kKeptRoom) String().swap(text);
+    }
+  }
   head_ = 0;
   count_ = 0;
   dropped_ = 0;
+  text_units_ = 0;
   return taken;
 }
 
@@ -50,12 +58,31 @@ std::string RecordingDessin::TakeLogText() {
 RecordingDessin::Entry& RecordingDessin::GrowOrTurn() {
   if (count_ == kLogLimit) {
     Entry& oldest = slots_[head_];
+    text_units_ -= oldest.TextUnits();
     head_ = (head_ + 1) % kLogLimit;
     ++dropped_;
     return oldest;
   }
+  // Full below the limit after long texts were dropped: the oldest call
+  // moves to the front, so the new slot comes after the newest.
+  std::rotate(slots_.begin(), slots_.begin() + static_cast<std::ptrdiff_t>(head_), slots_.end());
+  head_ = 0;
   slots_.emplace_back();
   return slots_[count_++];
+}
+
+void RecordingDessin::DropLongTexts() {
+  while (text_units_ > kTextLimit / 4 * 3 && count_ > 1) {
+    Entry& oldest = slots_[head_];
+    text_units_ -= oldest.TextUnits();
+    for (String& text : oldest.texts) {
+      if (text.capacity() > kKeptRoom) String().swap(text);
+    }
+    oldest.text_count = 0;
+    head_ = (head_ + 1) % slots_.size();
+    --count_;
+    ++dropped_;
+  }
 }
 
 DessinCall RecordingDessin::ToCall(const Entry& entry) {

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "ferlan/host.hpp"
@@ -35,6 +36,10 @@ class RecordingDessin final : public Dessin {
   // The log keeps the latest kLogLimit calls; older ones are dropped and
   // counted, so a session whose log is never read stays flat.
   static constexpr std::size_t kLogLimit = 10000;
+  // UTF-16 units of text the log keeps at most, however long the texts:
+  // past it the oldest calls go too, down to three quarters of it (the
+  // latest call always stays), and are counted with the others.
+  static constexpr std::size_t kTextLimit = std::size_t{1} << 22;
 
   // The calls since the last TakeLog, which forgets them.
   std::vector<DessinCall> TakeLog();
@@ -107,10 +112,21 @@ class RecordingDessin final : public Dessin {
       arg.boolean = v;
     }
     void Put(const String& v) {
-      texts[text_count++].assign(v);
+      String& text = texts[text_count++];
+      if (text.capacity() > kKeptRoom) {
+        text = v;  // the room of a long text is not kept for the calls to come
+      } else {
+        text.assign(v);
+      }
       args[count++].kind = Arg::Kind::Text;
     }
+    std::size_t TextUnits() const {
+      std::size_t units = 0;
+      for (std::size_t i = 0; i < text_count; ++i) units += texts[i].size();
+      return units;
+    }
   };
+  static constexpr std::size_t kKeptRoom = 1024;
 
   template <class... Args>
   void Record(const char* name, const Args&... args) {
@@ -119,14 +135,23 @@ class RecordingDessin final : public Dessin {
     entry.count = 0;
     entry.text_count = 0;
     (entry.Put(args), ...);
+    if constexpr ((std::is_same_v<Args, String> || ...)) {
+      text_units_ += entry.TextUnits();
+      if (text_units_ > kTextLimit) DropLongTexts();
+    }
   }
   // The slot for the next call; when the log is full, the oldest one.
-  // Below the limit the ring has not turned: head_ is 0.
   Entry& NextEntry() {
-    if (count_ < slots_.size()) return slots_[count_++];
+    if (count_ < slots_.size()) {
+      Entry& entry = slots_[(head_ + count_) % slots_.size()];
+      ++count_;
+      return entry;
+    }
     return GrowOrTurn();
   }
   Entry& GrowOrTurn();
+  // Drops the oldest calls till the texts kept are under their limit.
+  void DropLongTexts();
   static DessinCall ToCall(const Entry& entry);
 
   std::shared_ptr<Dessin> inner_;
@@ -135,6 +160,7 @@ class RecordingDessin final : public Dessin {
   std::size_t head_ = 0;
   std::size_t count_ = 0;
   std::size_t dropped_ = 0;
+  std::size_t text_units_ = 0;  // of the count_ calls kept
 };
 
 }  // namespace ferlan::headless

@@ -40,12 +40,14 @@ TEST_F(AutomateTest, BadRequestsAreRefusedWithTheirNumberAndTheSessionGoesOn) {
       {R"({"frobnicate":1})", 5}, {R"({"png":"x.png"})", 5},
       {R"({"call":"FormatDate","args":[{"u16":[4294967361]},"D"]})", 13},
       {R"({"call":"FormatDate","args":[{"u16":[-1]},"D"]})", 13}, {nul_path, 5},
+      {std::string(R"({"call":"NbCol"})") + '\0' + "x", 5},
       {R"({"reset":true,"call":"NbCol"})", 5}, {R"({"call":"NbCol","call":"NbLigne"})", 5},
+      {R"({"reset":false})", 5}, {R"({"log":0})", 5},
       {R"({"get":["Env.CourantX"],"args":[]})", 5},
       {R"({"call":"WinLigne","args":[{"obj":"KyF","obj":"x"}]})", 5},
       {R"({"new":{"name":"a\u0000b"}})", 5},
       {R"({"new":{"name":"p","kind":"Picture","file":"a\u0000b.bmp"}})", 5},
-      {R"({"new":{"name":"Env"}})", 5},
+      {R"({"new":{"name":"Env"}})", 5}, {R"({"new":{"name":"Rub"}})", 5},
       // The record table: read-only, by record number and field name.
       {R"({"get":["Rub.41.L"]})", 9}, {R"({"get":["Rub.-1.L"]})", 9},
       {R"({"get":["Rub.1.Nope"]})", 438}, {R"({"get":["Rub.1"]})", 438},
@@ -88,6 +90,7 @@ TEST_F(AutomateTest, GetSetNewLogAndResetAndAFailingSetChangesNothing) {
   EXPECT_EQ(Ask(R"({"log":true})")["ops"], Json::array());
   Ask(R"({"reset":true})");
   EXPECT_EQ(Get("Env.ToucheEntree"), 13);
+  EXPECT_EQ(Get("Env"), Json::parse(R"({"obj":"Env"})")) << "an object is answered by its name";
   EXPECT_EQ(Ask(R"({"get":["pic.Width"]})")["ok"], false);
 
   EXPECT_EQ(Ask(R"({"set":{"Env.ToucheEntree":10,"Clipboard":"new","Env.Nope":1}})")["error"]["number"],
@@ -179,7 +182,8 @@ TEST_F(PictureObjectTest, AFileBecomesAPictureControlForImageAD) {
 
 TEST_F(PictureObjectTest, MissingOrBadFilesGiveClearErrors) {
   std::ofstream(dir / "text.bmp") << "not a picture";
-  for (const std::string& file : {(dir / "none.bmp").string(), (dir / "text.bmp").string()}) {
+  for (const std::string& file :
+       {(dir / "none.bmp").string(), (dir / "text.bmp").string(), dir.string()}) {
     const Json answer = Ask(R"({"new":{"name":"p","kind":"Picture","file":")" + file + "\"}}");
     EXPECT_EQ(answer["ok"], false);
     EXPECT_EQ(answer["error"]["number"], 5);
@@ -187,6 +191,7 @@ TEST_F(PictureObjectTest, MissingOrBadFilesGiveClearErrors) {
         << answer.dump();
   }
   EXPECT_EQ(Ask(R"({"new":{"name":"p","kind":"Picture"}})")["error"]["number"], 5);
+  EXPECT_EQ(Ask(R"({"new":{"name":"p","file":"x.bmp"}})")["error"]["number"], 5);
   EXPECT_EQ(Ask(R"({"call":"ImageSD","args":["X",null]})")["error"]["number"], 91);
 }
 
@@ -226,6 +231,11 @@ TEST(FarDrawingTest, AFormTooLargeForAPictureIsAnErrorAndTheSessionGoesOn) {
   EXPECT_EQ(answer["ok"], false);
   EXPECT_EQ(answer["error"]["number"], 51);
   EXPECT_EQ(Json::parse(session.Handle(R"({"call":"WinLigne","args":[1]})"))["ok"], true);
+  // A control whose image cannot grow keeps the size of the image it has.
+  const Json grown = Json::parse(session.Handle(R"({"set":{"ZoneAff.Height":1e9}})"));
+  EXPECT_EQ(grown["error"]["number"], 51);
+  EXPECT_EQ(Json::parse(session.Handle(R"({"get":["ZoneAff.Height"]})"))["values"]["ZoneAff.Height"],
+            8550);
 }
 
 }  // namespace

@@ -21,6 +21,13 @@ for wrong in "" bogus "methods extra" "automate --bogus" "--help extra"; do
   [ "$status" -eq 2 ] || fail "ferlan $wrong exits $status, not 2"
   [ -z "$out" ] || fail "ferlan $wrong writes on standard output"
 done
+# A directory is no file to play, display or not.
+err=$("$ferlan" run / 2>&1 >/dev/null); status=$?
+[ "$status" -eq 2 ] && grep -q "cannot read" <<<"$err" || fail "ferlan run / exits $status: $err"
+for ask in methods --help --version; do
+  "$ferlan" $ask >/dev/full 2>/dev/null && fail "ferlan $ask ignores a full output"
+done
+"$ferlan" automate </ >/dev/null 2>&1 && fail "an input that cannot be read ends automate with 0"
 echo '{"call":"NbCol"}' | "$ferlan" automate >/dev/full 2>/dev/null && fail "a full output is ignored"
 echo '{"call":"NbCol"}' | "$ferlan" automate >&- 2>/dev/null && fail "a closed output is ignored"
 # With SIGPIPE ignored and the reader gone, the session ends by itself.

@@ -59,6 +59,23 @@ std::string FileName(const Json& value, const std::string& what) {
   return name;
 }
 
+// Names that get, set and {"obj":...} take for the session's own objects
+// and values, whatever `new` made: an object of one of these names could not
+// be reached (Rub.1.Width is the record table, Clipboard its text, ZoneAff
+// the surface also when Env.ZoneAff is Nothing).
+bool IsSessionName(const std::string& name) {
+  for (const char* n : {"KyF", "Form", "ZoneAff", "Env", "BarreOutils", "Caret", "zoneMessage",
+                        "ClavierKY", "Clipboard", "NbRub", "Rub"}) {
+    if (name == n) return true;
+  }
+  return false;
+}
+
+// `log` and `reset` take true alone: {"reset":false} must not wipe the session.
+void RequireTrue(const Json& request, const char* key) {
+  if (request[key] != true) throw BadRequest(std::string(key) + ": the value is true");
+}
+
 Json ReportsOf(const kit::Records& records) {
   Json out = Json::array();
   for (std::size_t i = 0; i < records.reports.size(); ++i) {
@@ -126,16 +143,19 @@ AutomateSession::~AutomateSession() = default;
 
 void AutomateSession::Reset() {
   named_.clear();
+  env_object_.reset();
   session_.reset();  // the old apartment ends before the new one begins
   if (factory_) {
     session_ = factory_();
-    return;
-  }
-  session_ = std::make_unique<headless::Session>(CanvasFor(surface_));
+  } else {
+    session_ = std::make_unique<headless::Session>(CanvasFor(surface_));
 #if FERLAN_HAVE_RASTER
-  // PNG decoding is the raster back-end's; BMP the forms runtime reads itself.
-  if (surface_ == SurfaceKind::Raster) session_->Global().SetPngDecoder(raster::DecodePng);
+    // PNG decoding is the raster back-end's; BMP the forms runtime reads itself.
+    if (surface_ == SurfaceKind::Raster) session_->Global().SetPngDecoder(raster::DecodePng);
 #endif
+  }
+  // One object for the session, so that an answer names it as it was given.
+  env_object_ = session_->EnvObject();
 }
 
 bool AutomateSession::Run(std::istream& in, std::ostream& out) {
@@ -182,12 +202,14 @@ std::string AutomateSession::Handle(std::string_view line) {
         answer = New(request);
         break;
       case Kind::Log:
+        RequireTrue(request, "log");
         answer = Log();
         break;
       case Kind::Png:
         answer = Png(request);
         break;
       case Kind::Reset:
+        RequireTrue(request, "reset");
         Reset();
         answer = Json{{"ok", true}};
         break;
@@ -318,11 +340,14 @@ Json AutomateSession::New(const Json& request) {
   if (name.empty() || name.find_first_of(std::string(".\0", 2)) != std::string::npos) {
     throw BadRequest("new: a name is not empty and holds no point and no NUL");
   }
-  if (ObjectNamed(name) && !named_.contains(name)) {
+  if (IsSessionName(name)) {
     throw BadRequest("new: \"" + name + "\" names an object of the session");
   }
   if (order.contains("set") && !order["set"].is_object()) throw BadRequest("new: set is an object");
-  if (order.contains("file")) FileName(order["file"], "new");
+  if (order.contains("file")) {
+    FileName(order["file"], "new");
+    if (kind != "Picture") throw BadRequest("new: only a Picture is read from a file");
+  }
   // The object gets its name only once every property is set, so a failing
   // request leaves the name as it was.
   const ObjectRef previous = named_.contains(name) ? named_[name] : nullptr;
@@ -371,7 +396,7 @@ Json AutomateSession::Png(const Json& request) {
 ObjectRef AutomateSession::ObjectNamed(const std::string& name) {
   if (name == "KyF" || name == "Form") return session_->FormRef();
   if (name == "ZoneAff") return session_->Env().surface;
-  if (name == "Env") return session_->EnvObject();
+  if (name == "Env") return env_object_;
   if (auto it = named_.find(name); it != named_.end()) return it->second;
   if (name == "BarreOutils" || name == "Caret" || name == "zoneMessage" || name == "ClavierKY") {
     return session_->Form().Member(name);
@@ -381,7 +406,7 @@ ObjectRef AutomateSession::ObjectNamed(const std::string& name) {
 
 std::string AutomateSession::NameOf(const ObjectRef& object) {
   if (!object) return {};
-  for (const char* n : {"KyF", "ZoneAff", "BarreOutils", "Caret", "zoneMessage", "ClavierKY"}) {
+  for (const char* n : {"KyF", "ZoneAff", "Env", "BarreOutils", "Caret", "zoneMessage", "ClavierKY"}) {
     try {
       if (ObjectNamed(n) == object) return n;
     } catch (const PlatformError&) {

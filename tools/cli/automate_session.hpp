@@ -59,6 +59,7 @@ class AutomateSession {
   SurfaceKind surface_;
   SessionFactory factory_;
   std::unique_ptr<headless::Session> session_;
+  ObjectRef env_object_;                    // what the name Env stands for
   std::map<std::string, ObjectRef> named_;  // objects made with `new`
 };
 

@@ -1,4 +1,5 @@
 // The command: `ferlan methods`, `ferlan automate` and `ferlan run`.
+#include <cstdio>
 #include <iostream>
 #include <string_view>
 
@@ -43,7 +44,8 @@ int main(int argc, char** argv) {
   }
   if (command == "methods" && argc == 2) {
     PrintMethods(std::cout);
-    return 0;
+    std::cout << std::flush;
+    return std::cout ? 0 : 1;
   }
   if (command == "automate") {
     std::string_view surface_name = "fixed";
@@ -65,6 +67,12 @@ int main(int argc, char** argv) {
     AutomateSession session(*surface);
     if (!session.Run(std::cin, std::cout)) {
       std::cerr << "ferlan: an answer could not be written; the session ends\n";
+      return 1;
+    }
+    // A read that failed (a directory, an I/O error) ends the input like its
+    // end does; only the stream's error flag tells them apart.
+    if (std::ferror(stdin)) {
+      std::cerr << "ferlan: standard input could not be read; the session ends\n";
       return 1;
     }
     return 0;

@@ -1,5 +1,6 @@
 #include "cli/picture_objects.hpp"
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <vector>
@@ -18,6 +19,12 @@ std::shared_ptr<forms::PictureBox> LoadPictureControl(headless::Session& session
     throw PlatformError::InvalidCall(request + ": a Picture needs \"file\", a BMP or PNG file");
   }
   const std::string file = order["file"].get<std::string>();
+  // A directory, a device or a pipe is no picture: reading one would fail
+  // with the library's own words, never end (/dev/zero), or wait for a writer.
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(file, error)) {
+    throw PlatformError::InvalidCall(request + ": \"" + file + "\" is not a file that can be read");
+  }
   std::ifstream in(file, std::ios::binary);
   if (!in) throw PlatformError::InvalidCall(request + ": cannot read the file \"" + file + "\"");
   const std::vector<std::uint8_t> bytes((std::istreambuf_iterator<char>(in)),

@@ -32,6 +32,11 @@ LineRead ReadRequestLine(std::istream& in, std::string& line, std::size_t limit)
 }
 
 Json ParseRequest(std::string_view line) {
+  // The JSON reader takes a NUL byte for the end of its input and would
+  // answer what stands before it; JSON itself allows none outside a string.
+  if (line.find('\0') != std::string_view::npos) {
+    throw PlatformError::InvalidCall("a request holds no NUL byte (write \\u0000 in a string)");
+  }
   // One entry per open array or object: the keys seen so far in it.
   std::vector<std::set<std::string>> keys;
   auto check = [&](int, Json::parse_event_t event, Json& parsed) {

@@ -24,7 +24,8 @@ enum class LineRead { Line, TooLong, End };
 LineRead ReadRequestLine(std::istream& in, std::string& line,
                          std::size_t limit = kMaxRequestBytes);
 
-// Parses one request. Raises a PlatformError (5) for broken JSON, nesting
+// Parses one request. Raises a PlatformError (5) for broken JSON (a raw NUL
+// byte included), nesting
 // deeper than kMaxRequestDepth (found while parsing, before the deeper levels
 // are built) and a key given twice in one object.
 Json ParseRequest(std::string_view line);

@@ -1,5 +1,6 @@
 #include "cli/run_command.hpp"
 
+#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <ostream>
@@ -13,8 +14,10 @@ namespace ferlan::tool {
 
 int RunInWindow(const std::string& file, std::ostream& out, std::ostream& err) {
 #if FERLAN_HAVE_WINDOW
+  // A directory opens as a stream but reads nothing: it would show an empty
+  // window with no word of why.
   std::ifstream in(file);
-  if (!in) {
+  if (!in || std::filesystem::is_directory(file)) {
     err << "ferlan: cannot read " << file << '\n';
     return 2;
   }

@@ -246,6 +246,10 @@ TEST(KeyScriptTest, RefusesBadScriptsNamingThePlaceAndQueuesNothing) {
   EXPECT_EQ(script.Append("ab{Left}"), 3u);
   EXPECT_THROW(script.Append("cd{Nope}"), PlatformError);
   EXPECT_EQ(script.Size(), 3u);
+  // Items nobody reads stop at the limit; the script that would pass it adds none.
+  EXPECT_EQ(script.Append(std::string(KeyScript::kMaxQueued - 4, 'x')), KeyScript::kMaxQueued - 4);
+  EXPECT_THROW(script.Append("yz"), PlatformError);
+  EXPECT_EQ(script.Size(), KeyScript::kMaxQueued - 1);
 }
 
 }  // namespace

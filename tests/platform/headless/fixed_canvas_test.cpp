@@ -46,6 +46,13 @@ TEST(FixedCanvasTest, KeepsWhatWasDrawnSinceTheLastClearLessWhatAFillCovers) {
   EXPECT_EQ(canvas.DescribeOps(), "FillBox 0 0 105 195 1\n");
   canvas.Clear(0);
   EXPECT_EQ(canvas.Dropped(), 0u);
+  // Long texts weigh by their length: the list keeps at most kTextLimit units.
+  const String long_text(FixedCanvas::kTextLimit / 3, u'x');
+  for (int i = 0; i < 10; ++i) canvas.Text(0, Single(i), long_text, forms::FontSpec{10, false}, 0);
+  std::size_t units = 0;
+  for (const DrawOp& op : canvas.Ops()) units += op.text.size();
+  EXPECT_LE(units, FixedCanvas::kTextLimit);
+  EXPECT_EQ(canvas.Ops().size() + canvas.Dropped(), 10u);
 }
 
 TEST(FixedCanvasTest, ManyFillsOverEachOtherLeaveOnlyTheLastBesideTheTexts) {

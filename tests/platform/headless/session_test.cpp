@@ -38,6 +38,16 @@ TEST_F(HeadlessSessionTest, WhatTheHostKeepsStopsGrowing) {
   }
   EXPECT_EQ(session.Records().reports.size(), kit::Records::kLimit);
   EXPECT_EQ(session.Records().dropped, 5u);
+  // Long texts weigh by their length: the log keeps at most kTextLimit units.
+  session.Recorder().TakeLog();
+  const String long_text(headless::RecordingDessin::kTextLimit / 3, u'x');
+  for (int i = 0; i < 10; ++i) session.Recorder().Texte(Zone(), 0, Single(i), long_text, 0);
+  const std::size_t dropped = session.Recorder().Dropped();
+  const auto log = session.Recorder().TakeLog();
+  std::size_t units = 0;
+  for (const auto& call : log) units += std::get<String>(call.args[2]).size();
+  EXPECT_LE(units, headless::RecordingDessin::kTextLimit);
+  EXPECT_EQ(log.size() + dropped, 10u);
 }
 
 TEST(SessionLifetimeTest, ANewSessionFollowsTheLastAndMayBeReenteredOnResize) {
