@@ -38,7 +38,8 @@ struct MethodInfo {
 constexpr Long kFirstDispId = 0x60030000;
 
 std::span<const MethodInfo> MethodTable();
-// The method of that name, or nullptr.
+// The method of that name, or nullptr. Names are matched regardless of
+// case, as late binding matches them (and as members are matched).
 const MethodInfo* FindMethod(std::string_view name);
 
 }  // namespace ferlan

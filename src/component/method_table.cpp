@@ -267,7 +267,7 @@ std::span<const MethodInfo> MethodTable() {
 
 const MethodInfo* FindMethod(std::string_view name) {
   for (const MethodInfo& m : MethodTable()) {
-    if (m.name == name) return &m;
+    if (SameName(m.name, name)) return &m;
   }
   return nullptr;
 }

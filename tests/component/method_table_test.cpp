@@ -75,6 +75,7 @@ TEST(MethodTableTest, InvokersCheckArgumentsAndWriteOutputsBack) {
   std::vector<Variant> none;
   EXPECT_EQ(ErrorNumberOf([&] { FindMethod("Dorvi")->invoke(k, none); }), 449);
   EXPECT_EQ(FindMethod("NoSuchMethod"), nullptr);
+  EXPECT_EQ(FindMethod("dorvi"), FindMethod("Dorvi"));
 }
 
 TEST(MethodTableTest, EveryMethodIsBuilt) {
