@@ -158,7 +158,8 @@ void AutomateSession::Reset() {
   env_object_ = session_->EnvObject();
 }
 
-bool AutomateSession::Run(std::istream& in, std::ostream& out) {
+bool AutomateSession::Run(std::istream& in, std::ostream& out,
+                          const std::function<bool()>& after_answer) {
   std::string line;
   for (;;) {
     const LineRead read = ReadRequestLine(in, line);
@@ -176,6 +177,7 @@ bool AutomateSession::Run(std::istream& in, std::ostream& out) {
     // An answer that cannot be written ends the session: nobody reads on.
     out << answer << '\n' << std::flush;
     if (!out) return false;
+    if (after_answer && !after_answer()) break;
   }
   return true;
 }

@@ -31,9 +31,11 @@ class AutomateSession {
 
   // The answer to one request line, without its line end. Never throws.
   std::string Handle(std::string_view line);
-  // Answers every line of `in` on `out` until the end of the input; false
-  // as soon as an answer cannot be written (the session then ends).
-  bool Run(std::istream& in, std::ostream& out);
+  // Answers every line of `in` on `out` until the end of the input, or
+  // until `after_answer` (called once each answer is written) gives false;
+  // false as soon as an answer cannot be written (the session then ends).
+  bool Run(std::istream& in, std::ostream& out,
+           const std::function<bool()>& after_answer = nullptr);
 
  private:
   Json Call(const Json& request);

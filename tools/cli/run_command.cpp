@@ -30,11 +30,15 @@ int RunInWindow(const std::string& file, std::ostream& out, std::ostream& err) {
   }
   {
     AutomateSession session(SurfaceKind::Raster, [&w = *window] { return w.OpenSession(); });
-    std::string line;
-    while (!window->Closed() && std::getline(in, line)) {
-      if (line.find_first_not_of(" \t\r") == std::string::npos) continue;
-      out << session.Handle(line) << '\n' << std::flush;
-      window->Present();
+    // The lines are read and answered as `automate` does, each answer shown
+    // at once; closing the window ends the reading.
+    const bool written = session.Run(in, out, [&w = *window] {
+      w.Present();
+      return !w.Closed();
+    });
+    if (!written) {
+      err << "ferlan: an answer could not be written; the session ends\n";
+      return 1;
     }
     // The screen stays for the person to read until the window closes.
     while (!window->Closed()) window->Loop().DoEvents();
