@@ -1,8 +1,11 @@
 #include "cli/automate_session.hpp"
 
+#include <algorithm>
+#include <array>
 #include <istream>
 #include <ostream>
 #include <string>
+#include <string_view>
 
 #include "ferlan/method_table.hpp"
 #include "cli/picture_objects.hpp"
@@ -59,16 +62,19 @@ std::string FileName(const Json& value, const std::string& what) {
   return name;
 }
 
+// The session's own objects, by the names that get, set and {"obj":...}
+// take ("Form" is another name of KyF); an answer names an object by the
+// first of them that is it.
+constexpr std::array<std::string_view, 7> kSessionObjects = {
+    "KyF", "ZoneAff", "Env", "BarreOutils", "Caret", "zoneMessage", "ClavierKY"};
+
 // Names that get, set and {"obj":...} take for the session's own objects
 // and values, whatever `new` made: an object of one of these names could not
 // be reached (Rub.1.Width is the record table, Clipboard its text, ZoneAff
 // the surface also when Env.ZoneAff is Nothing).
-bool IsSessionName(const std::string& name) {
-  for (const char* n : {"KyF", "Form", "ZoneAff", "Env", "BarreOutils", "Caret", "zoneMessage",
-                        "ClavierKY", "Clipboard", "NbRub", "Rub"}) {
-    if (name == n) return true;
-  }
-  return false;
+bool IsSessionName(std::string_view name) {
+  return name == "Form" || name == "Clipboard" || name == "NbRub" || name == "Rub" ||
+         std::ranges::find(kSessionObjects, name) != kSessionObjects.end();
 }
 
 // `log` and `reset` take true alone: {"reset":false} must not wipe the session.
@@ -408,9 +414,9 @@ ObjectRef AutomateSession::ObjectNamed(const std::string& name) {
 
 std::string AutomateSession::NameOf(const ObjectRef& object) {
   if (!object) return {};
-  for (const char* n : {"KyF", "ZoneAff", "Env", "BarreOutils", "Caret", "zoneMessage", "ClavierKY"}) {
+  for (const std::string_view n : kSessionObjects) {
     try {
-      if (ObjectNamed(n) == object) return n;
+      if (ObjectNamed(std::string(n)) == object) return std::string(n);
     } catch (const PlatformError&) {
       // the host removed that member: not this object
     }
