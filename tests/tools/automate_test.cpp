@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -236,6 +237,22 @@ TEST(FarDrawingTest, AFormTooLargeForAPictureIsAnErrorAndTheSessionGoesOn) {
   EXPECT_EQ(grown["error"]["number"], 51);
   EXPECT_EQ(Json::parse(session.Handle(R"({"get":["ZoneAff.Height"]})"))["values"]["ZoneAff.Height"],
             8550);
+}
+
+TEST(PngRequestTest, APictureGoesToARegularFileOnly) {
+  const auto kind = SurfaceByName("raster");
+  if (!kind) GTEST_SKIP() << "the raster back-end was not built";
+  AutomateSession session{*kind};
+  for (const char* target : {"/dev/null", "/dev/stdout", "/tmp"}) {
+    const Json answer = Json::parse(session.Handle(Json{{"png", target}}.dump()));
+    EXPECT_EQ(answer["ok"], false) << target;
+    EXPECT_EQ(answer["error"]["number"], 5) << target;
+  }
+  const std::string file = testing::TempDir() + "ferlan-png-request.png";
+  std::remove(file.c_str());
+  EXPECT_EQ(Json::parse(session.Handle(Json{{"png", file}}.dump()))["ok"], true);
+  EXPECT_EQ(Json::parse(session.Handle(Json{{"png", file}}.dump()))["ok"], true);  // overwritten
+  std::remove(file.c_str());
 }
 
 }  // namespace

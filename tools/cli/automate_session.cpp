@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <filesystem>
 #include <istream>
 #include <ostream>
 #include <string>
@@ -391,6 +392,12 @@ Json AutomateSession::Log() {
 
 Json AutomateSession::Png(const Json& request) {
   const std::string file = FileName(request["png"], "png");
+  // A device or a pipe (/dev/stdout above all) would mix the picture into
+  // the answers or wait for a reader: only a file, new or regular, is written.
+  std::error_code error;
+  if (std::filesystem::exists(file, error) && !std::filesystem::is_regular_file(file, error)) {
+    throw BadRequest("png: \"" + file + "\" is not a regular file");
+  }
 #if FERLAN_HAVE_RASTER
   if (surface_ == SurfaceKind::Raster) {
     raster::WriteFormPng(session_->Form(), file,
