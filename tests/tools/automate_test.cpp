@@ -92,6 +92,10 @@ TEST_F(AutomateTest, GetSetNewLogAndResetAndAFailingSetChangesNothing) {
   Ask(R"({"reset":true})");
   EXPECT_EQ(Get("Env.ToucheEntree"), 13);
   EXPECT_EQ(Get("Env"), Json::parse(R"({"obj":"Env"})")) << "an object is answered by its name";
+  Ask(R"({"set":{"Env.ZoneAff":null}})");
+  EXPECT_EQ(Ask(R"({"set":{"Env.ZoneAff":{"obj":"ZoneAff"}}})")["ok"], true)
+      << "the session's surface is given back by its name";
+  EXPECT_EQ(Get("Env.ZoneAff"), Json::parse(R"({"obj":"ZoneAff"})"));
   EXPECT_EQ(Ask(R"({"get":["pic.Width"]})")["ok"], false);
 
   EXPECT_EQ(Ask(R"({"set":{"Env.ToucheEntree":10,"Clipboard":"new","Env.Nope":1}})")["error"]["number"],

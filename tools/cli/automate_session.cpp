@@ -410,7 +410,12 @@ Json AutomateSession::Png(const Json& request) {
 
 ObjectRef AutomateSession::ObjectNamed(const std::string& name) {
   if (name == "KyF" || name == "Form") return session_->FormRef();
-  if (name == "ZoneAff") return session_->Env().surface;
+  // With Env.ZoneAff set to Nothing, the name still gives the session's own
+  // surface, so that it can be given back.
+  if (name == "ZoneAff") {
+    if (session_->Env().surface) return session_->Env().surface;
+    return session_->Form().Member("ZoneAff");
+  }
   if (name == "Env") return env_object_;
   if (auto it = named_.find(name); it != named_.end()) return it->second;
   if (name == "BarreOutils" || name == "Caret" || name == "zoneMessage" || name == "ClavierKY") {
