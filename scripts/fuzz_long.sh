@@ -6,7 +6,7 @@
 #
 #   scripts/fuzz_long.sh [BUILD_DIR [RUNS [NAME...]]]  # defaults: build-asan 1000000, all
 #
-# Each fuzzer starts from the seeds of fuzz/corpus/NAME when there are some,
+# Each fuzzer starts from the seeds of fuzz/corpus/NAME (less "_fuzzer") if any,
 # and keeps what it finds in BUILD_DIR/fuzz-long/corpus/NAME, so that a second
 # run goes on from there. A finding stops that fuzzer only: its input is saved
 # as BUILD_DIR/fuzz-long/NAME-crash-..., its report as NAME.log, the others
@@ -43,7 +43,7 @@ for fuzzer in "${fuzzers[@]}"; do
   corpus=$work/corpus/$name
   log=$work/$name.log
   mkdir -p "$corpus"
-  seeds=fuzz/corpus/$name
+  seeds=fuzz/corpus/${name%_fuzzer}
   [ -d "$seeds" ] || seeds=
   start=$(date +%s)
   ASAN_OPTIONS=detect_leaks=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 \
