@@ -80,6 +80,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     ++reported;
   }
-  if (reported != UnknownCommands(*st.Chaines, text)) Fail("unknown commands not all reported");
+  // Past its limit the record counts reports instead of keeping them.
+  const Long unknown = UnknownCommands(*st.Chaines, text);
+  const auto dropped = static_cast<Long>(session.Records().dropped);
+  if (reported > unknown || reported + dropped < unknown) Fail("unknown commands not all reported");
   return 0;
 }
