@@ -139,12 +139,18 @@ class FixedCanvas final : public forms::Canvas {
   mutable std::vector<std::size_t> gone_;
   static constexpr std::size_t kGoneBatch = 256;
   std::uint64_t next_id_ = 0;
-  // The numbers of the items by their lower edge. An item covered by a box
-  // has its lower edge between the box's top and bottom, so a filled box
-  // looks only at the items of a few edges, not at the whole list. A NaN
-  // edge is never covered and not indexed. Emptied edges stay until
-  // there are many (see Add).
-  std::map<Single, std::vector<std::uint64_t>> by_bottom_;
+  // The numbers of the items by their lower edge, and along an edge by their
+  // left side. An item covered by a box has its lower edge between the box's
+  // top and bottom and its left side between the box's sides, so a filled
+  // box looks only at the items of a few edges and of its width, not at the
+  // whole list. An item with a NaN edge or side is never covered and not
+  // indexed. Emptied edges stay until there are many (see Add).
+  struct EdgeItem {
+    Single left;
+    std::uint64_t id;
+  };
+  std::map<Single, std::vector<EdgeItem>> by_bottom_;
+  static constexpr std::size_t kShortEdge = 16;
   // Texts of items gone, whose room the next texts take: drawing a text
   // then costs no allocation. At most kSpareTexts, none over kSpareRoom.
   static constexpr std::size_t kSpareTexts = 256;

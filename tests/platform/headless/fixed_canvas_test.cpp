@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <tuple>
 
 #include "forms/bitmap.hpp"
@@ -53,6 +54,23 @@ TEST(FixedCanvasTest, KeepsWhatWasDrawnSinceTheLastClearLessWhatAFillCovers) {
   for (const DrawOp& op : canvas.Ops()) units += op.text.size();
   EXPECT_LE(units, FixedCanvas::kTextLimit);
   EXPECT_EQ(canvas.Ops().size() + canvas.Dropped(), 10u);
+}
+
+TEST(FixedCanvasTest, AFillOnALongRowCoversOnlyWhatLiesInsideIt) {
+  // Forty boxes along one lower edge, drawn out of order, and one that sticks
+  // out on the left: a fill over boxes 10 to 19 takes those alone.
+  FixedCanvas canvas;
+  canvas.Clear(0);
+  for (int i = 39; i >= 20; --i) canvas.Box(Single(i * 10), 0, Single(i * 10 + 10), 100, i);
+  for (int i = 0; i < 20; ++i) canvas.Box(Single(i * 10), 0, Single(i * 10 + 10), 100, i);
+  canvas.Box(95, 50, 150, 100, 99);
+  canvas.FillBox(200, 0, 100, 100, 7);
+  std::string kept;
+  for (const DrawOp& op : canvas.Ops()) kept += std::to_string(op.colour) + " ";
+  std::string expected;
+  for (int i = 39; i >= 20; --i) expected += std::to_string(i) + " ";
+  for (int i = 0; i < 10; ++i) expected += std::to_string(i) + " ";
+  EXPECT_EQ(kept, expected + "99 7 ");
 }
 
 TEST(FixedCanvasTest, ManyFillsOverEachOtherLeaveOnlyTheLastBesideTheTexts) {
