@@ -202,7 +202,7 @@ class KySaisie {
   //           rules, message zone
   // -------------------------------------------------------------------------
   Long EspaceFeuille(Long L, Long H);
-  void Centrage(PictureBoxRef P, Long MargeBasse = 0);
+  void Centrage(ObjectRef P, Long MargeBasse = 0);
   void InitKyF();
   void DimensionFeuille(Integer H, Integer L = 80);
   void DimensionFeuilleLT(Integer H, Single L, Boolean QueSiInf = false);

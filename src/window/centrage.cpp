@@ -2,6 +2,8 @@
 // the control no longer fits. Setting the form's Height or Width runs the
 // host's own handlers before the assignment returns, and those may call
 // Centrage again: CentrageEnCours turns such a nested call into nothing.
+#include <string_view>
+
 #include "component/module_state.hpp"
 #include "ferlan/kysaisie.hpp"
 
@@ -31,9 +33,16 @@ Single ToolbarHeight(ModuleState& st) {
   return 0;
 }
 
+// P is any object of the form: its members are reached by name, as the
+// platform's late binding does, so that a control lacking one of them fails
+// with 438 only in the step that reads it.
+Single MemberOf(Object& object, std::string_view name) {
+  return VariantToSingle(object.GetProperty(name));
+}
+
 }  // namespace
 
-void KySaisie::Centrage(PictureBoxRef P, Long MargeBasse) {
+void KySaisie::Centrage(ObjectRef P, Long MargeBasse) {
   ModuleState& st = State();
   if (st.CentrageEnCours) return;
   const CentringGuard guard(st);
@@ -46,19 +55,19 @@ void KySaisie::Centrage(PictureBoxRef P, Long MargeBasse) {
     Boolean grown = false;
     // The test takes P.ScaleHeight, the new height P.Height: a control with
     // a border makes the form a little taller than the test needed.
-    if (offered < static_cast<Double>(P->ScaleHeight()) + MargeBasse +
+    if (offered < static_cast<Double>(MemberOf(*P, "ScaleHeight")) + MargeBasse +
                       MulInt(15, st.Env->MargeY())) {
       Form& form = CurrentForm(st);
       const Double height = static_cast<Double>(form.Height()) - form.ScaleHeight() + toolbar +
-                            P->Height() + MargeBasse + MulInt(15, st.Env->MargeY());
+                            MemberOf(*P, "Height") + MargeBasse + MulInt(15, st.Env->MargeY());
       CurrentForm(st).SetHeight(CSng(height));
       offered = CSng(static_cast<Double>(CurrentForm(st).ScaleHeight()) - toolbar);
       grown = true;
     }
-    if (CurrentForm(st).ScaleWidth() < P->Width()) {
+    if (CurrentForm(st).ScaleWidth() < MemberOf(*P, "Width")) {
       // No margin for the width.
       const Double width = static_cast<Double>(CurrentForm(st).Width()) -
-                           CurrentForm(st).ScaleWidth() + P->Width();
+                           CurrentForm(st).ScaleWidth() + MemberOf(*P, "Width");
       CurrentForm(st).SetWidth(CSng(width));
       grown = true;
     }
@@ -69,8 +78,10 @@ void KySaisie::Centrage(PictureBoxRef P, Long MargeBasse) {
   // Floating-point halves: a position may end in .5, and a control larger
   // than the room offered gets a negative one. MargeBasse has no part in
   // the centring; the room it buys lies above and below P in equal shares.
-  P->SetLeft(CSng(Divide(static_cast<Double>(CurrentForm(st).ScaleWidth()) - P->Width(), 2)));
-  P->SetTop(CSng(toolbar + Divide(static_cast<Double>(offered) - P->Height(), 2)));
+  P->SetProperty("Left", CSng(Divide(
+                             static_cast<Double>(CurrentForm(st).ScaleWidth()) - MemberOf(*P, "Width"), 2)));
+  P->SetProperty("Top",
+                 CSng(toolbar + Divide(static_cast<Double>(offered) - MemberOf(*P, "Height"), 2)));
 }
 
 }  // namespace ferlan

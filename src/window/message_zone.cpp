@@ -12,10 +12,12 @@ void KySaisie::AfficheZoneMessage(const PictureRef& P) {
   // not make this call place another control than the one it filled.
   FormRef form = st.Env->KyF();
   if (!form) throw PlatformError::ObjectNotSet();
-  const PictureBoxRef zone = CurrentZoneRef(st);
   const auto message = FormMember<PictureBox>(*form, "zoneMessage");
+  // By reference: the control shows that very picture. Done before the
+  // surface is read, so that a call failing there has already filled it.
+  message->SetPicture(P);
 
-  message->SetPicture(P);  // by reference: the control shows that very picture
+  const PictureBoxRef zone = CurrentZoneRef(st);
   const Single bottom = CSng(static_cast<Double>(zone->Top()) + zone->Height());
   const Single room = CSng(static_cast<Double>(form->ScaleHeight()) - bottom);
   const Double wanted = 1.1 * static_cast<Double>(message->Height());

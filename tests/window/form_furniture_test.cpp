@@ -87,6 +87,13 @@ TEST_F(MessageZonePictureTest, TheZoneShowsThePictureItselfAndKeepsItWhenHidden)
   KySaisie{}.EffaceZoneMessage();
   EXPECT_FALSE(zone->Visible());
   EXPECT_EQ(zone->Picture(), picture);
+
+  // The picture goes in before the surface is read: without a surface the
+  // call fails, the new picture already shown.
+  auto other = std::make_shared<forms::Bitmap>(1, 1, std::vector<forms::Rgb>(1));
+  Env().surface = nullptr;
+  ExpectPlatformError([&] { KySaisie{}.AfficheZoneMessage(other); }, 91);
+  EXPECT_EQ(zone->Picture(), other);
 }
 
 // The form's caption and the vertical rules: a column is 105 wide and a line

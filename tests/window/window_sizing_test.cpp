@@ -154,5 +154,18 @@ TEST_F(WindowTest, ErrorsInsideCentrageLeaveTheGuardDown) {
   EXPECT_TRUE(CentresAgain());
 }
 
+TEST_F(WindowTest, CentrageTakesAnyObjectWithTheMembersItsStepsRead) {
+  // The toolbar has no ScaleHeight: only fitting a normal form reads it.
+  auto toolbar = std::dynamic_pointer_cast<Control>(Form().Member("BarreOutils"));
+  Place(*toolbar, 5, 6, 1000, 420);
+  ExpectPlatformError([&] { ky.Centrage(toolbar); }, 438);
+  EXPECT_EQ(std::pair(toolbar->Left(), toolbar->Top()), std::pair(5.0F, 6.0F));
+  // Maximised, the form is 28680 x 15750 inside.
+  Form().SetWindowState(2);
+  toolbar->SetWidth(1000);
+  ky.Centrage(toolbar);
+  EXPECT_EQ(std::pair(toolbar->Left(), toolbar->Top()), std::pair(13840.0F, 7665.0F));
+}
+
 }  // namespace
 }  // namespace ferlan::testing
