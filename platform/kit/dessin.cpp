@@ -86,14 +86,12 @@ void Dessin::Largeur(PictureBox& Zone, Single W, Boolean QueSiInf) {
   Zone.SetWidth(W + (Zone.Width() - Zone.ScaleWidth()));
 }
 
-void Dessin::MemImage(PictureBox& Zone) { saved_[&Zone].push_back(Zone.Image()); }
+void Dessin::MemImage(PictureBox& Zone) { saved_.push_back(Zone.Image()); }
 
 void Dessin::ResImage(PictureBox& Zone) {
-  auto it = saved_.find(&Zone);
-  if (it == saved_.end() || it->second.empty()) return;
-  PictureRef picture = std::move(it->second.back());
-  it->second.pop_back();
-  if (it->second.empty()) saved_.erase(it);
+  if (saved_.empty()) return;
+  const PictureRef picture = std::move(saved_.back());
+  saved_.pop_back();
   Zone.PaintPicture(picture, 0, 0);
 }
 

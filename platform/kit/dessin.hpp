@@ -3,7 +3,6 @@
 // every back-end. docs/kit.md says what Reduit, Recadre and Cadre3D do.
 #pragma once
 
-#include <map>
 #include <memory>
 #include <vector>
 
@@ -45,9 +44,9 @@ class Dessin : public ferlan::Dessin {
 
  private:
   std::unique_ptr<ferlan::Env> env_;
-  // Saved pictures, one stack per surface. A surface is known by its address
-  // while it lives; the host gives each surface its own.
-  std::map<const PictureBox*, std::vector<PictureRef>> saved_;
+  // Saved pictures, last on top: one stack whichever surface saved them,
+  // so that it keeps step with the component's Pile.
+  std::vector<PictureRef> saved_;
 };
 
 }  // namespace ferlan::kit
