@@ -3,6 +3,7 @@
 //
 // Env.SaisieOK is the loop's flag and lives in the environment, not in a
 // local: the host may read it during the wait and after the entry.
+#include <optional>
 #include <utility>
 
 #include "component/module_state.hpp"
@@ -19,6 +20,14 @@ namespace {
 Boolean IsLeavingKey(Env& env, Integer TR) {
   return TR == env.ToucheHaut() || TR == env.ToucheBas() || TR == env.TouchePageHaut() ||
          TR == env.TouchePageBas();
+}
+
+// The end of an entry that Env.Abandon would keep in its loop for ever: the
+// value goes back exactly as the caller stored it, with TR 0.
+void GiveBackStored(ModuleState& st, String& M, const String& stored_on_entry, Integer& TR) {
+  M = stored_on_entry;
+  TR = 0;
+  st.Env->SetSaisieOK(true);
 }
 
 // The editor mode of a plain code; the numeric family edits with no mode.
@@ -71,6 +80,8 @@ void KySaisie::ModDT(String& M, String TYP, Single LT, Integer C, Single CT, Int
   // A calculator result stands in the field: the editor runs again at once,
   // whatever the flag and whatever key ended the pass.
   bool result_to_confirm = false;
+  // The text that the last abandoned pass got back from Modif.
+  std::optional<String> abandoned_text;
 
   while (result_to_confirm || !st.Env->SaisieOK()) {
     result_to_confirm = false;
@@ -79,20 +90,18 @@ void KySaisie::ModDT(String& M, String TYP, Single LT, Integer C, Single CT, Int
                      IMS, Col, Coul, KyFSubst, CaretX, CaretY);
     order = 0;
 
-    // Modif returns at once, with TR 0, while Env.Abandon holds, so no text
-    // could ever be accepted or left with a leaving key: the loop would never
-    // end. An abandoned entry ends here, whatever stood in the field, and
-    // gives back the value exactly as it was stored on entry. Nothing is
-    // drawn, as Modif draws nothing when it is abandoned.
-    if (st.Env->Abandon()) {
-      M = stored_on_entry;
-      TR = 0;
-      st.Env->SetSaisieOK(true);
-      return;
-    }
-
     if (NB != 0) {
+      const String returned = M;
       if (entry::CheckNumeric(st, M, T, ND, LRacAutoNb) == entry::NumericOutcome::Computed) {
+        // Abandoned, Modif gives back at once what it was given, padded: the
+        // result is checked once more, unless it came from that same text.
+        if (st.Env->Abandon()) {
+          if (abandoned_text == returned) {
+            GiveBackStored(st, M, stored_on_entry, TR);
+            return;
+          }
+          abandoned_text = returned;
+        }
         result_to_confirm = true;
         continue;
       }
@@ -109,7 +118,15 @@ void KySaisie::ModDT(String& M, String TYP, Single LT, Integer C, Single CT, Int
       st.Env->SetSaisieOK(true);
     }
 
-    if (st.Env->SaisieOK() || !IsLeavingKey(*st.Env, TR)) continue;
+    if (st.Env->SaisieOK()) continue;
+    if (!IsLeavingKey(*st.Env, TR)) {
+      // Abandoned, the next pass would get the same text back and refuse it.
+      if (st.Env->Abandon()) {
+        GiveBackStored(st, M, stored_on_entry, TR);
+        return;
+      }
+      continue;
+    }
 
     // Leaving an unacceptable text: the old value comes back, on screen as
     // far as the field's width goes, and whole in M.

@@ -67,21 +67,34 @@ TEST_F(TypedEntryTest, DatesAreEmptyOrValidAndGiveTheirSortNumber) {
   EXPECT_THAT(TakeLog(), ::testing::EndsWith("Texte 525 624 \"01/02/2003\" 0\n"));
 }
 
-// Abandon ends the entry with the value exactly as stored on entry and TR 0,
-// whatever stood in the field; so does a key script that ran dry for 10 s.
-TEST_F(TypedEntryTest, AbandonGivesTheStoredValueBackWithTrZero) {
-  for (const auto& [typ, keys, old] :
-       Cases{{u"I0", "abc{Enter}{abandon}", {StoredInteger(5)}},  // unacceptable text
-             {u"I0", "1+1{Enter}{abandon}", {StoredInteger(5)}},  // a calculator result standing
-             {u"D2", "100F{Enter}{abandon}", {StoredDouble(3)}},
-             {u"I0", "123{abandon}", {StoredInteger(5)}},  // acceptable, not confirmed
-             {u"N2", "7{abandon}", {u"12.5   "}},          // kept as stored
-             {u"D", "{Esc}99{Enter}{abandon}", {u"01/02/2003"}},
-             {u"I0", "", {StoredInteger(9)}},  // starved
-             {u"I0", "abc{Enter}", {StoredInteger(9)}}}) {
+// An abandoned edit returns at once with what was typed, and the entry goes
+// on as after any key: an acceptable text, or a calculator result that
+// becomes one, is stored with TR 0. Where no later pass could end the entry
+// (a refused text, a result that goes back to the calculator), the value
+// comes back exactly as stored on entry; so too for a key script that ran dry
+// for 10 s.
+TEST_F(TypedEntryTest, AbandonStoresAnAcceptableTextAndOtherwiseGivesTheStoredValueBack) {
+  struct Case {
+    String typ;
+    std::string keys;
+    String old;
+    EntryResult want;
+  };
+  const String five = StoredInteger(5);
+  for (const Case& c : std::vector<Case>{
+           {u"I0", "abc{Enter}{abandon}", five, {five, 0, 0}},  // refused
+           {u"I0", "1+1{Enter}{abandon}", five, {StoredInteger(2), 0, 0}},  // the result standing
+           {u"I0", "1+1{abandon}", five, {StoredInteger(2), 0, 0}},  // worked out, then checked
+           {u"D2", "100F{Enter}{abandon}", StoredDouble(3), {StoredDouble(3), 0, 0}},  // decimals
+           {u"I0", "123{abandon}", five, {StoredInteger(123), 0, 0}},
+           {u"N2", "x{abandon}", u"12.5   ", {u"12.5   ", 0, 0}},  // as stored, not coded again
+           {u"D", "{Esc}99{Enter}{abandon}", u"01/02/2003", {u"01/02/2003", 0, 0}},
+           {u"D", "{Esc}24122024{abandon}", u"01/02/2003", {u"24/12/2024", 0, 20241224}},
+           {u"I0", "", StoredInteger(9), {StoredInteger(9), 0, 0}},  // starved
+           {u"I0", "abc{Enter}", StoredInteger(9), {StoredInteger(9), 0, 0}}}) {
     session.BeginCall();
-    EXPECT_EQ(Enter(old.m, typ, keys), (EntryResult{old.m, 0, 0})) << keys;
-    EXPECT_EQ(session.EndCall(), !keys.ends_with("{abandon}")) << keys;
+    EXPECT_EQ(Enter(c.old, c.typ, c.keys), c.want) << c.keys;
+    EXPECT_EQ(session.EndCall(), !c.keys.ends_with("{abandon}")) << c.keys;
     Env().Abandon = false;
   }
 }
