@@ -162,10 +162,13 @@ void KySaisie::Modif(Single LT, Integer C, Single CT, Integer LCM, Single LzT, S
   EditState e{State(), LT,    C, CT, LCM, LzT, CzT, TV, CH, TR, IMS, col, Coul, std::move(KyFSubst),
               CaretX,  CaretY};
   SetUp(e);
+  // Set-up leaves the text filling the field exactly. Later the host may
+  // change its own variable during a wait, so this holds only here.
+  FERLAN_ASSERT(e.Fin || Len(e.CH) == e.LC);
   while (!e.Fin) {
-    // Between commands the text fills the field exactly and the caret is in it.
-    FERLAN_ASSERT(Len(e.CH) == e.LC);
-    FERLAN_ASSERT(e.P >= 1 && e.P <= e.LC);
+    // The caret stays in the field; only a host's Col below 1 in mode "E"
+    // starts it left of it, and the repeat default's Mid then refuses it.
+    FERLAN_ASSERT(e.P <= e.LC && (e.P >= 1 || e.IMS == u"E"));
     Scroll(e);
     ShowStatus(e);
     if (!IsHidden(e)) DrawField(e);

@@ -53,6 +53,11 @@ TEST_F(EditLoopTest, WindowScrollsAtTheEdgesAndJumpsBack) {
   // Infini, LCM 4 at column 5: CMax 9, a window of LCM + 1.
   EXPECT_EQ(ToUtf8(Edit({u"", 4, u"C", u"Infini"}, "abcdefg{Enter}").ch), "abcdefg");
   EXPECT_EQ(Drawn(), "     |a    |ab   |abc  |abcd |bcde |cdef |defg |abcde|");
+
+  // A Col below 1 in mode "E" starts the caret left of the field: the
+  // first pass draws, then the repeat default's Mid refuses position 0.
+  ExpectPlatformError([&] { Edit({text, 20, u"C", u"E", 0, u"B", 10}, "{Enter}"); }, 5,
+                      "Invalid procedure call or argument: Mid from a position below 1");
 }
 
 TEST_F(EditLoopTest, HiddenMaskedAndDateValuesShowAsTheirKindWants) {
