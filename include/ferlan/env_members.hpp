@@ -11,7 +11,7 @@
 #pragma once
 
 #define FERLAN_ENV_MEMBERS(X)                                                        \
-  /* Where the next text goes, in twips, and the margins in characters. */        \
+  /* Where the next text goes, and two small margins, all in twips. */            \
   X(Single, CourantX, GetSet, 0)                                                    \
   X(Single, CourantY, GetSet, 0)                                                    \
   X(Integer, MargeX, Get, 1)                                                        \
