@@ -5,6 +5,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 
 #include "ferlan/host.hpp"
 #include "ferlan/export.hpp"
@@ -23,6 +24,17 @@ class EventLoop {
   // DoEvents once it is enabled with an interval. The loop does not keep the
   // timer alive: dropping the last reference stops it.
   virtual TimerRef CreateTimer(std::function<void()> on_tick) = 0;
+
+  // Says whether the caller does nothing of its own between two DoEvents
+  // (no virtual key waits to be read): only then may a loop let idle time
+  // go by in one step or sleep. A loop without it keeps to its own default.
+  void SetCallerIdle(std::function<bool()> caller_idle) { caller_idle_ = std::move(caller_idle); }
+
+ protected:
+  const std::function<bool()>& CallerIdle() const { return caller_idle_; }
+
+ private:
+  std::function<bool()> caller_idle_;
 };
 
 }  // namespace ferlan::forms

@@ -50,10 +50,8 @@ class EventLoop final : public forms::EventLoop {
   void SetForm(std::shared_ptr<forms::Form> form) { form_ = std::move(form); }
   // How Env.Abandon is written, for {abandon} and for starvation.
   void SetAbandonWriter(std::function<void(Boolean)> write) { write_abandon_ = std::move(write); }
-  // Lets idle time pass in one step whenever `caller_idle` says the caller
-  // does nothing of its own between two DoEvents (no virtual key waits to be
-  // read). Without it the clock moves 1 ms a DoEvents.
-  void SetIdleSkipping(std::function<bool()> caller_idle) { caller_idle_ = std::move(caller_idle); }
+  // Idle time passes in one step only while SetCallerIdle's check says so;
+  // without that check the clock moves 1 ms a DoEvents.
 
   void DoEvents() override;
   TimerRef CreateTimer(std::function<void()> on_tick) override;
@@ -82,7 +80,6 @@ class EventLoop final : public forms::EventLoop {
   KeyScript& script_;
   std::shared_ptr<forms::Form> form_;
   std::function<void(Boolean)> write_abandon_;
-  std::function<bool()> caller_idle_;
   // Each timer made, not owned, with its address: one thread runs the loop,
   // so a timer not expired can be looked at through it without taking a
   // share; a share is taken only while it fires.

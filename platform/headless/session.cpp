@@ -15,13 +15,13 @@ thread_local const Session* session_of_thread = nullptr;
 Session::Session(forms::CanvasFactory canvas_factory, Frontend frontend)
     : canvas_factory_(std::move(canvas_factory)),
       loop_(clock_, keys_),
+      events_(frontend.loop ? frontend.loop : &loop_),
       env_(std::make_shared<kit::EnvState>()),
       records_(std::make_shared<kit::Records>()) {
   FERLAN_ASSERT(session_of_thread == nullptr);  // one Session a thread at a time
   if (!canvas_factory_) canvas_factory_ = FixedCanvasFactory();
   const forms::Screen screen = frontend.screen.value_or(forms::Screen(kScreenWidth, kScreenHeight));
-  global_ = std::make_shared<forms::Global>(frontend.loop ? *frontend.loop : loop_, screen,
-                                            std::move(frontend.clipboard));
+  global_ = std::make_shared<forms::Global>(*events_, screen, std::move(frontend.clipboard));
 
   const forms::Screen maximised = frontend.work_area.value_or(screen);
   form_ = std::make_shared<forms::Form>(kFormHandle, maximised.Width(), maximised.Height());
@@ -75,11 +75,12 @@ Session::Session(forms::CanvasFactory canvas_factory, Frontend frontend)
   registry.Register("Global", [global = global_] { return global; });
   apartment_.emplace(std::move(registry));
   session_of_thread = this;  // last: a constructor that throws leaves none
-  loop_.SetIdleSkipping([this] { return apartment_ && !apartment_->VirtualKeysPending(); });
+  events_->SetCallerIdle([this] { return apartment_ && !apartment_->VirtualKeysPending(); });
 }
 
 Session::~Session() {
   session_of_thread = nullptr;
+  events_->SetCallerIdle(nullptr);  // a front-end's loop may outlive the session
   apartment_.reset();
   // The form's handlers call into the component, which has ended.
   form_->on_key_down = nullptr;

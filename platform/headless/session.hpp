@@ -107,6 +107,8 @@ class Session {
   VirtualClock clock_;
   KeyScript keys_;
   EventLoop loop_;
+  // The loop DoEvents runs: loop_, or the front-end's.
+  forms::EventLoop* events_;
   std::shared_ptr<kit::EnvState> env_;
   std::shared_ptr<kit::Records> records_;
   std::shared_ptr<forms::Global> global_;

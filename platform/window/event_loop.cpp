@@ -39,7 +39,10 @@ void EventLoop::DoEvents() {
   const bool key = DeliverOne();
   bool acted = FireDueTimers(news || key) || key;
   Present();
-  if (!acted && keys_.empty() && idle_turns_++ > 0) {
+  // Virtual keys waiting in the component are read one a DoEvents: no sleep
+  // may hold them back.
+  const bool caller_busy = CallerIdle() && !CallerIdle()();
+  if (!acted && keys_.empty() && !caller_busy && idle_turns_++ > 0) {
     const std::int64_t budget = SleepBudget();
     if (budget > 0) {
       SDL_Event event;

@@ -21,7 +21,7 @@ void Start(const TimerRef& timer, Long interval_ms) {
 struct OwnLoop {
   OwnLoop(const std::shared_ptr<forms::Form>& form, bool skip) {
     loop.SetForm(form);
-    if (skip) loop.SetIdleSkipping([] { return true; });
+    if (skip) loop.SetCallerIdle([] { return true; });
   }
   void Note(const std::string& what) { notes += what + "@" + std::to_string(clock.Now()) + " "; }
   VirtualClock clock;
@@ -179,7 +179,7 @@ TEST_F(EventLoopTest, OneMsTimerCoalescesYetSeesEveryChangeAtItsTime) {
 // Maximal waits through Saisie and virtual keys at 1 ms a poll are the key
 // pipeline's; here, starvation still comes after exactly ten seconds.
 TEST_F(EventLoopTest, StarvationStaysAtTenSecondsWhileIdleTimeIsSkipped) {
-  loop.SetIdleSkipping([] { return true; });
+  loop.SetCallerIdle([] { return true; });
   loop.BeginCall();
   // A timer set to the 9,999th ms of an empty script sees no starvation yet.
   bool starved_at_9999 = true;

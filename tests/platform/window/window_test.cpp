@@ -182,6 +182,26 @@ TEST_F(WindowTest, ClosingTheWindowAbandonsTheWaitAndTheSession) {
   EXPECT_TRUE(session->Env().Abandon);
 }
 
+// The virtual keyboard's keys are read one a DoEvents, outside a field too,
+// and the loop never sleeps while some wait.
+TEST_F(WindowTest, VirtualKeysAreNeverHeldBackByASleep) {
+  window::Window window("Ferlan test");
+  auto session = Open(window);
+  KySaisie k;
+  k.ClavierVirtuel(u"ab", 13);
+  const std::uint64_t sleeps = window.Loop().Sleeps();
+  String typed;
+  Integer code = 0;
+  for (int pair = 0; pair < 5; ++pair) {
+    String r;
+    k.Saisie(r, &code);
+    if (code == 0) typed += r;
+  }
+  EXPECT_EQ(typed, u"ab");
+  EXPECT_EQ(code, 13);
+  EXPECT_EQ(window.Loop().Sleeps(), sleeps);
+}
+
 TEST_F(WindowTest, TheFormAndTheWindowFollowEachOther) {
   // A panel of 24 pixels at the display's foot, as a desktop would keep.
   const long work_area[4] = {0, 0, 1280, 1000};
