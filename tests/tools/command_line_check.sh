@@ -35,4 +35,10 @@ echo '{"call":"NbCol"}' | "$ferlan" automate >&- 2>/dev/null && fail "a closed o
  exit "${PIPESTATUS[1]}")
 status=$?
 [ "$status" -eq 1 ] || fail "with the reader gone, automate exits $status, not 1"
+# A picture over the answers' own file, regular as it is, would wipe them.
+answers=$(mktemp)
+printf '%s\n' '{"call":"NbCol"}' "{\"png\":\"$answers\"}" | "$ferlan" automate >"$answers" 2>/dev/null
+grep -q '"ok":true' "$answers" && grep -q 'standard stream' "$answers" ||
+  fail "a png over the answers' file: $(head -c 200 "$answers")"
+rm -f "$answers"
 echo "command line: as expected"

@@ -8,6 +8,9 @@
 #include <string>
 #include <string_view>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include "ferlan/method_table.hpp"
 #include "cli/picture_objects.hpp"
 #include "cli/property_path.hpp"
@@ -110,6 +113,22 @@ Json BoxesOf(const kit::Records& records) {
                    {"line", records.blocs[i].line}});
   }
   return out;
+}
+
+// Whether `file` is the very file of one of the tool's standard streams:
+// a picture written there would overwrite the requests being read or the
+// answers being written, even when that file is a regular one.
+bool IsStandardStream(const std::string& file) {
+  struct stat target {};
+  if (::stat(file.c_str(), &target) != 0) return false;
+  for (int fd : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    struct stat stream {};
+    if (::fstat(fd, &stream) == 0 && stream.st_dev == target.st_dev &&
+        stream.st_ino == target.st_ino) {
+      return true;
+    }
+  }
+  return false;
 }
 
 Json HelpOf(const kit::Records& records) {
@@ -397,6 +416,9 @@ Json AutomateSession::Png(const Json& request) {
   std::error_code error;
   if (std::filesystem::exists(file, error) && !std::filesystem::is_regular_file(file, error)) {
     throw BadRequest("png: \"" + file + "\" is not a regular file");
+  }
+  if (IsStandardStream(file)) {
+    throw BadRequest("png: \"" + file + "\" is a standard stream of this tool");
   }
 #if FERLAN_HAVE_RASTER
   if (surface_ == SurfaceKind::Raster) {
