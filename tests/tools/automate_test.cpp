@@ -34,7 +34,7 @@ TEST_F(AutomateTest, CallAnswersResultAndArgumentsAfterTheCall) {
 TEST_F(AutomateTest, BadRequestsAreRefusedWithTheirNumberAndTheSessionGoesOn) {
   const std::string nul_path = std::string(R"({"png":"a)") + "\\u0000" + R"(b.png"})";
   const std::pair<std::string, int> cases[] = {
-      {"{broken", 5}, {R"({"call":"Nope"})", 5}, {R"({"call":"WinLigne","args":["x"]})", 13},
+      {"{broken", 5}, {R"({"call":"Nope"})", 438}, {R"({"call":"WinLigne","args":["x"]})", 13},
       {R"({"call":"WinLigne","args":[1,2]})", 450}, {R"({"call":"Dorvi"})", 449},
       {R"({"call":"WinLigne","args":[{"obj":"nobody"}]})", 13},
       {R"({"get":["Nobody.Width"]})", 438}, {R"({"keys":"{NoSuchKey}"})", 5}, {R"([1,2])", 5},

@@ -254,7 +254,8 @@ Json AutomateSession::Call(const Json& request) {
   if (!request["call"].is_string()) throw BadRequest("call: the method name is a string");
   const std::string name = request["call"].get<std::string>();
   const MethodInfo* method = FindMethod(name);
-  if (!method) throw BadRequest("call: unknown method \"" + name + "\"");
+  // As late binding answers a name the class lacks.
+  if (!method) throw PlatformError::MemberNotSupported("call: unknown method \"" + name + "\"");
 
   std::vector<Variant> args;
   if (request.contains("args")) {
