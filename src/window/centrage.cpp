@@ -78,10 +78,10 @@ void KySaisie::Centrage(ObjectRef P, Long MargeBasse) {
   // Floating-point halves: a position may end in .5, and a control larger
   // than the room offered gets a negative one. MargeBasse has no part in
   // the centring; the room it buys lies above and below P in equal shares.
-  P->SetProperty("Left", CSng(Divide(
-                             static_cast<Double>(CurrentForm(st).ScaleWidth()) - MemberOf(*P, "Width"), 2)));
-  P->SetProperty("Top",
-                 CSng(toolbar + Divide(static_cast<Double>(offered) - MemberOf(*P, "Height"), 2)));
+  const Double width = MemberOf(*P, "Width");
+  P->SetProperty("Left", CSng(Divide(CurrentForm(st).ScaleWidth() - width, 2)));
+  const Double height = MemberOf(*P, "Height");
+  P->SetProperty("Top", CSng(toolbar + Divide(offered - height, 2)));
 }
 
 }  // namespace ferlan
