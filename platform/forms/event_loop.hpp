@@ -31,7 +31,8 @@ class EventLoop {
   void SetCallerIdle(std::function<bool()> caller_idle) { caller_idle_ = std::move(caller_idle); }
 
  protected:
-  const std::function<bool()>& CallerIdle() const { return caller_idle_; }
+  // The check's answer, or `unset` when no check was given.
+  bool CallerIdle(bool unset) const { return caller_idle_ ? caller_idle_() : unset; }
 
  private:
   std::function<bool()> caller_idle_;

@@ -30,7 +30,7 @@ bool EventLoop::Coalesces(const forms::Timer& timer) {
 }
 
 std::int64_t EventLoop::Step() {
-  if (!CallerIdle() || !last_idle_ || !CallerIdle()()) return 1;
+  if (!last_idle_ || !CallerIdle(false)) return 1;
   std::int64_t limit = INT64_MAX;
   if (!script_.Empty()) {
     if (script_.Front().kind != KeyItem::Kind::Wait) return 1;

@@ -41,7 +41,7 @@ void EventLoop::DoEvents() {
   Present();
   // Virtual keys waiting in the component are read one a DoEvents: no sleep
   // may hold them back.
-  const bool caller_busy = CallerIdle() && !CallerIdle()();
+  const bool caller_busy = !CallerIdle(true);
   if (!acted && keys_.empty() && !caller_busy && idle_turns_++ > 0) {
     const std::int64_t budget = SleepBudget();
     if (budget > 0) {
