@@ -111,13 +111,6 @@ TEST_F(WindowTest, EspaceFeuilleGrowsOnlyToWhatIsAsked) {
   EXPECT_EQ(Layout(), "12000x9240 at 0,7.5 in 12180x9765");
 }
 
-TEST_F(WindowTest, MargeBasseMakesTheFormTallerButDoesNotMoveTheCentre) {
-  ky.Centrage(session.SurfaceRef(), 1000);
-  EXPECT_EQ(TakeLog(), "Recadre\n");
-  // 9000 - 8550 + 8550 (the surface) + 1000 + 15; the top is (9565 - 8550) / 2.
-  EXPECT_EQ(Layout(), "11820x8490 at 0,507.5 in 12000x10015");
-}
-
 TEST_F(WindowTest, ACentrageFromInsideACentrageLeavesItsControlUntouched) {
   int resizes = 0;
   Form().on_resize = [&] {
