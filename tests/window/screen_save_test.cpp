@@ -11,6 +11,8 @@
 #include <random>
 #include <sstream>
 #include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "cli/surface_choice.hpp"
@@ -135,15 +137,13 @@ TEST_F(ScreenSaveTest, AMaximisedFormKeepsItsSizeAndTheStackStaysInStep) {
   ky.DimensionFeuille(40, 100);
   ky.Titre(u"x");
   ky.ResEcr();
-  EXPECT_EQ(Form().Caption(), u"Deux");
-  EXPECT_EQ(Form().Width(), 28800);
-  EXPECT_EQ(Zone().Width(), 11880);
+  EXPECT_EQ(std::tuple(Form().Caption(), Form().Width(), Zone().Width()),
+            std::tuple(u"Deux", 28800, 11880));
   Form().SetWindowState(0);
   EXPECT_EQ(Form().Width(), 15000);
   // The next restore takes the first save's values, not leftovers.
   ky.ResEcr();
-  EXPECT_EQ(Form().Caption(), u"Un");
-  EXPECT_EQ(Form().Width(), 12000);
+  EXPECT_EQ(std::pair(Form().Caption(), Form().Width()), std::pair(String(u"Un"), 12000.0F));
 }
 
 TEST_F(ScreenSaveTest, ResEcrSaisBringsBackTheRecordsAndCentresTheSurface) {
@@ -156,10 +156,10 @@ TEST_F(ScreenSaveTest, ResEcrSaisBringsBackTheRecordsAndCentresTheSurface) {
   ky.ResEcrSais();
   // Record 3 of the later screen stays in the table, hidden by NbRub.
   EXPECT_EQ(Identifiers(), "A B ");
-  EXPECT_EQ(State().Rub[2].Valeur.Trimmed(), u"42");
-  EXPECT_EQ(State().Rub[3].Identif.Trimmed(), u"Z");
+  EXPECT_EQ(
+      std::tuple(State().Rub[2].Valeur.Trimmed(), State().Rub[3].Identif.Trimmed(), State().nES),
+      std::tuple(u"42", u"Z", 0));
   EXPECT_EQ(Zone().Left(), (Form().ScaleWidth() - Zone().Width()) / 2);
-  EXPECT_EQ(State().nES, 0);
 
   // Nothing saved: ResEcr has run, then the report, and nothing is centred
   // nor restored.
@@ -168,8 +168,7 @@ TEST_F(ScreenSaveTest, ResEcrSaisBringsBackTheRecordsAndCentresTheSurface) {
   ky.MemEcr();
   ky.ResEcrSais();
   EXPECT_EQ(TakeReports(), std::vector<std::string>{kNothingSaved});
-  EXPECT_EQ(Zone().Left(), 7);
-  EXPECT_EQ(Identifiers(), "A B ");
+  EXPECT_EQ(std::pair(Zone().Left(), Identifiers()), std::pair(7.0F, std::string("A B ")));
 }
 
 TEST_F(ScreenSaveTest, TheSixthSaveReportsSaturationAndKeepsTheFifth) {
@@ -182,8 +181,7 @@ TEST_F(ScreenSaveTest, TheSixthSaveReportsSaturationAndKeepsTheFifth) {
   EXPECT_EQ(TakeReports(), std::vector<std::string>{
                                "MemEcrSais: Matrice de Sauvegarde @sES()@ des Ecrans de Saisie est "
                                "@ Saturée @ - @5  Mémorisations on déjà été Effectuées"});
-  EXPECT_EQ(State().nES, 5);
-  EXPECT_EQ(State().sNbColonnes, 5);
+  EXPECT_EQ(std::pair(State().nES, State().sNbColonnes), std::pair(Integer{5}, Long{5}));
 
   // Pile stands one save deeper: the first restore gives the sixth visible
   // screen back with the fifth records; the sixth restore finds sES empty.
