@@ -61,7 +61,7 @@ TEST_F(CaretTest, CaretStandsUnderTheCharacterAsWideAsItWhileTheFieldWaits) {
   EXPECT_NE(caret.Left(), 3000);
 }
 
-TEST_F(CaretTest, ACaretControlPutInItsPlaceIsTheOneMoved) {
+TEST_F(CaretTest, TheCaretIsTheFormsControlOfThatName) {
   Edit(At(u"hello", 4), "{wait:2}{Enter}");
   const auto first = CaretControl(St());
   const auto second = session.NewPictureBox();
@@ -69,6 +69,9 @@ TEST_F(CaretTest, ACaretControlPutInItsPlaceIsTheOneMoved) {
   Edit(At(u"hello", 2), "{wait:2}{Enter}");
   EXPECT_EQ(std::pair(second->Left(), second->Width()), std::pair(kCT + 105, 105.0F));
   EXPECT_EQ(first->Left(), kCT + 3 * 105);  // left where it was
+  // A form without one fails at the field's set-up.
+  Env().form = std::make_shared<forms::Form>(headless::Session::kFormHandle, 28800, 16200);
+  ExpectPlatformError([&] { Edit({u"abc"}, ""); }, 438);
 }
 
 TEST_F(CaretTest, CaretBlinksOnlyWhileTheFormIsInFront) {
@@ -107,11 +110,6 @@ TEST_F(CaretTest, BlinkPhaseCarriesOverUnlessTheCaretMovesSideways) {
   Env().Abandon = false;
   Edit(At(u"abc", 1), "{wait:600}{Right}{wait:100}{abandon}");
   EXPECT_TRUE(CaretControl(St())->Visible());
-}
-
-TEST_F(CaretTest, FormWithoutCaretFailsAtSetUp) {
-  Env().form = std::make_shared<forms::Form>(headless::Session::kFormHandle, 28800, 16200);
-  ExpectPlatformError([&] { Edit({u"abc"}, ""); }, 438);
 }
 
 }  // namespace
