@@ -81,7 +81,7 @@ TEST_F(TypedEntryTest, AbandonStoresAnAcceptableTextAndOtherwiseGivesTheStoredVa
   };
   const String five = StoredInteger(5);
   for (const Case& c : std::vector<Case>{
-           {u"I0", "abc{Enter}{abandon}", five, {five, 0, 0}},  // refused
+           {u"I0", "abc{Enter}{abandon}", five, {five, 0, 0}},              // refused
            {u"I0", "1+1{Enter}{abandon}", five, {StoredInteger(2), 0, 0}},  // the result standing
            {u"I0", "1+1{abandon}", five, {StoredInteger(2), 0, 0}},  // worked out, then checked
            {u"D2", "100F{Enter}{abandon}", StoredDouble(3), {StoredDouble(3), 0, 0}},  // decimals
@@ -156,9 +156,10 @@ TEST_F(LogicalEntryTest, OnlyExactlyOIsTrue) {
   }
 }
 
-// SaiLON enters one column right of the display position (column 10 gives
-// 11, X 1155), showing OUI for True; the answer comes back as a Boolean.
-TEST_F(LogicalEntryTest, EntryAtTheDisplayPositionStartsOneColumnRight) {
+// The answer comes back as a Boolean, shown as OUI or NON. SaiLON enters one
+// column right of the display position (column 10 gives 11, X 1155); SaisL
+// goes through the field's record, where a "B" field stores "O" or "N".
+TEST_F(LogicalEntryTest, EntryAtTheDisplayPositionOrInAFieldGivesABoolean) {
   KySaisie{}.AffPos(5, 10);
   Boolean logique = true;
   Integer tr = -1;
@@ -169,16 +170,11 @@ TEST_F(LogicalEntryTest, EntryAtTheDisplayPositionStartsOneColumnRight) {
   Type("x{Down}");  // an unacceptable text left with a leaving key: the old answer
   KySaisie{}.SaiLON(logique, tr);
   EXPECT_EQ(std::pair(logique, tr), std::pair(Boolean{false}, Integer{40}));
-}
 
-// SaisL goes through the field's record: a "B" field stores "O" or "N".
-TEST_F(LogicalEntryTest, EntryInAFieldStoresTheLetter) {
   AddField(u"PAYE", u"B", 6, 105, 1785, 525, 1800, 3);
-  Boolean paye = false;
-  Integer tr = -1;
   Type("o");
-  KySaisie{}.SaisL(u"PAYE", paye, tr);
-  EXPECT_TRUE(paye);
+  KySaisie{}.SaisL(u"PAYE", logique, tr);
+  EXPECT_TRUE(logique);
   EXPECT_EQ(Record(1).Valeur.Trimmed(), u"O");
   EXPECT_THAT(TakeLog(), HasSubstr("Texte 1800 1872 \"NON\""));
   EXPECT_THAT(TakeReports(), IsEmpty());
