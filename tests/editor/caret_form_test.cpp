@@ -42,8 +42,7 @@ TEST_F(CaretTest, CaretStandsUnderTheCharacterAsWideAsItWhileTheFieldWaits) {
   EXPECT_EQ(std::tuple(caret.Left(), caret.Top(), caret.Width()), std::tuple(kCT + 315, 790, 105));
   EXPECT_FALSE(caret.Visible());  // hidden once the key came
 
-  // Wider letters push the caret further; the top rounds 624 + 390 x 0.85
-  // = 955.5 to the even 956.
+  // Wider letters push the caret further; the top rounds 624 + 390 x 0.85 = 955.5 to the even 956.
   Zone().Font().SetSize(20);
   Edit(At(u"hello", 4), "{wait:2}{Enter}");
   EXPECT_EQ(std::tuple(caret.Left(), caret.Top(), caret.Width()), std::tuple(kCT + 630, 956, 210));

@@ -1,6 +1,5 @@
-// ModDT and ModD through real keys played through the headless event loop,
-// and yes/no values as Booleans.
-// TR 13 is Enter, 38 Up, 34 Page Down, 40 Down, 0 an abandoned entry.
+// ModDT and ModD through real keys played through the headless event loop, and yes/no values as
+// Booleans. TR 13 is Enter, 38 Up, 34 Page Down, 40 Down, 0 an abandoned entry.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -66,12 +65,10 @@ TEST_F(TypedEntryTest, DatesAreEmptyOrValidAndGiveTheirSortNumber) {
   EXPECT_THAT(TakeLog(), ::testing::EndsWith("Texte 525 624 \"01/02/2003\" 0\n"));
 }
 
-// An abandoned edit returns at once with what was typed, and the entry goes
-// on as after any key: an acceptable text, or a calculator result that
-// becomes one, is stored with TR 0. Where no later pass could end the entry
-// (a refused text, a result that goes back to the calculator), the value
-// comes back exactly as stored on entry; so too for a key script that ran dry
-// for 10 s.
+// An abandoned edit returns at once with what was typed, and the entry goes on as after any key: an
+// acceptable text, or a calculator result that becomes one, is stored with TR 0. Where no later
+// pass could end the entry (a refused text, a result that goes back to the calculator), the value
+// comes back exactly as stored on entry; so too for a key script that ran dry for 10 s.
 TEST_F(TypedEntryTest, AbandonStoresAnAcceptableTextAndOtherwiseGivesTheStoredValueBack) {
   struct Case {
     String typ;

@@ -1,8 +1,7 @@
-// A field of the screen by its identifier, on the fixed surface: line 3 is at
-// 936, line 4 at 1248, a text is 195 high and a column 105 wide. Entry goes
-// through real keys: the record gives the geometry and the type, the value
-// comes back in stored form, in the caller's variable and in the record's
-// Valeur (TR 13 is Enter). Display and side messages are read in the log.
+// A field of the screen by its identifier, on the fixed surface: line 3 is at 936, line 4 at 1248,
+// a text is 195 high and a column 105 wide. Entry goes through real keys: the record gives the
+// geometry and the type, the value comes back in stored form, in the caller's variable and in the
+// record's Valeur (TR 13 is Enter). Display and side messages are read in the log.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -28,9 +27,8 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
-// Entry hands ModD whole numbers, ties to even: CT 1732.5 is 1732 and its
-// column 1732 \ 105 = 16, CzT 1627.5 is 1628, LzT 3360.5 is 3360. Display
-// by identifier draws at the record's own 1732.5.
+// Entry hands ModD whole numbers, ties to even: CT 1732.5 is 1732 and its column 1732 \ 105 = 16,
+// CzT 1627.5 is 1628, LzT 3360.5 is 3360. Display by identifier draws at the record's own 1732.5.
 TEST_F(EntryByIdentifierTest, EntryRoundsTheRecordAndDisplayDoesNot) {
   AddField(u"NOM", u"A", 3, 105, 1627.5F, 3360.5F, 1732.5F, 30);
   String c = u"Durand";
@@ -51,9 +49,8 @@ TEST_F(EntryByIdentifierTest, EntryRoundsTheRecordAndDisplayDoesNot) {
   EXPECT_THAT(TakeReports(), IsEmpty());
 }
 
-// A number goes through the calculator, a date gives its sort number, and
-// Valeur holds the stored form: two characters for an "I0", padded. SaiD on
-// a field that is no date gives O 0.
+// A number goes through the calculator, a date gives its sort number, and Valeur holds the stored
+// form: two characters for an "I0", padded. SaiD on a field that is no date gives O 0.
 TEST_F(EntryByIdentifierTest, NumbersAndDatesComeBackInStoredForm) {
   AddField(u"QTE", u"I0", 5, 105, 1785, 735, 1800, 5);
   AddField(u"DATEFAC", u"D", 7, 105, 1785, 1260, 1800, 10);

@@ -1,7 +1,6 @@
-// The form's furniture over `ferlan automate`: the message zone under the
-// surface, the caption, the column rules, and the wait for the operator. The
-// session's zone is a hidden picture control of the form; its height is set
-// so that 1.1 times it is exact.
+// The form's furniture over `ferlan automate`: the message zone under the surface, the caption, the
+// column rules, and the wait for the operator. The session's zone is a hidden picture control of
+// the form; its height is set so that 1.1 times it is exact.
 #include <memory>
 
 #include "ferlan/kysaisie.hpp"
@@ -36,9 +35,8 @@ TEST_F(MessageZoneTest, TheZoneGoesUnderTheSurfaceWhichMakesRoomOnlyWhenItMust) 
   // the surface (11880 wide), not under the form.
   EXPECT_EQ(Show({{"ZoneAff.Height", 8000}, {"ZoneAff.Top", 0}, {"ZoneAff.Left", 10}}),
             Json::parse("[[], [2950, 8000, true, 10, 0, 9000]]"));
-  // Room 549: Centrage with a margin of 550 finds the form tall enough
-  // (8550 >= 7941 + 550 + 15), so it only centres; the zone then hangs past
-  // the form's lower edge.
+  // Room 549: Centrage with a margin of 550 finds the form tall enough (8550 >= 7941 + 550 + 15),
+  // so it only centres; the zone then hangs past the form's lower edge.
   EXPECT_EQ(Show({{"ZoneAff.Height", 8001}}),
             Json::parse("[[], [2940, 8275.5, true, 0, 274.5, 9000]]"));
   // The full surface: the form grows by 550 + 15 and the surface is centred
@@ -89,8 +87,7 @@ TEST_F(MessageZonePictureTest, TheZoneShowsThePictureItselfAndKeepsItWhenHidden)
   EXPECT_EQ(zone->Picture(), other);
 }
 
-// The form's caption and the vertical rules: a column is 105 wide and a line
-// 312 high.
+// The form's caption and the vertical rules: a column is 105 wide and a line 312 high.
 TEST_F(CaptionTest, TitreComposesTheCaptionWithOnlyTheCompanyTrimmed) {
   Set({{"Env.DateTitre", " 31/12/2026 "},
        {"Env.EnteteTexte", "Paie "},
@@ -100,8 +97,7 @@ TEST_F(CaptionTest, TitreComposesTheCaptionWithOnlyTheCompanyTrimmed) {
   EXPECT_EQ(Get("KyF.Caption"),
             "Bulletins  au  31/12/2026  - Paie  -  Code Ent  042  :   Dupont & Fils");
 
-  // Empty pieces still leave every separator; a blank company name ends in
-  // " : ".
+  // Empty pieces still leave every separator; a blank company name ends in " : ".
   Set({{"Env.DateTitre", ""}, {"Env.EnteteTexte", ""}, {"Env.CodeEnt", ""}, {"Env.NomEnt", "   "}});
   Call("Titre", {""});
   EXPECT_EQ(Get("KyF.Caption"), " au  -  -  Code Ent  : ");
@@ -170,8 +166,7 @@ TEST_F(WaitingTest, AttentePutsPromptAndFieldOnLine23AndGivesTheScreenBack) {
   EXPECT_EQ(ops.back(), Json::parse(R"(["ResImage"])"));
   // Room for the block: 5 pitches below its base line 22.
   EXPECT_EQ(Named(ops, "Hauteur"), Json::parse(R"([["Hauteur",8424,false]])"));
-  // The prompt, 40 characters centred in 8820, in its box from 4 units
-  // above line 23.
+  // The prompt, 40 characters centred in 8820, in its box from 4 units above line 23.
   const Json texts = Named(ops, "Texte");
   ASSERT_FALSE(texts.empty());
   EXPECT_EQ(

@@ -1,9 +1,8 @@
-// Saving and restoring screens. The visible level is checked on the
-// fixed-metric surface, whose picture is its display list; the entry level
-// on the record and column tables of the session's apartment. Then as a
-// property: random sequences of drawing, sizing, captions, screen definitions
-// and tables, with entry-level saves nested up to the limit, give back at each
-// restore exactly what was saved at its level, on either surface.
+// Saving and restoring screens. The visible level is checked on the fixed-metric surface, whose
+// picture is its display list; the entry level on the record and column tables of the session's
+// apartment. Then as a property: random sequences of drawing, sizing, captions, screen definitions
+// and tables, with entry-level saves nested up to the limit, give back at each restore exactly what
+// was saved at its level, on either surface.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -161,8 +160,7 @@ TEST_F(ScreenSaveTest, ResEcrSaisBringsBackTheRecordsAndCentresTheSurface) {
       std::tuple(u"42", u"Z", 0));
   EXPECT_EQ(Zone().Left(), (Form().ScaleWidth() - Zone().Width()) / 2);
 
-  // Nothing saved: ResEcr has run, then the report, and nothing is centred
-  // nor restored.
+  // Nothing saved: ResEcr has run, then the report, and nothing is centred nor restored.
   ky.MemEcr();
   Zone().SetLeft(7);
   ky.MemEcr();

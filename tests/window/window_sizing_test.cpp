@@ -1,8 +1,7 @@
-// Sizing the surface in lines and columns, and centring it. The session's
-// form is 12000 x 9000 (11880 x 8550 inside) with a hidden toolbar 420 high;
-// the surface fills it and has a border of 60, so it starts 11820 x 8490
-// inside. Growing the form runs its on_resize handler at once, as a host's
-// resize event does, and that handler may call back into the component.
+// Sizing the surface in lines and columns, and centring it. The session's form is 12000 x 9000
+// (11880 x 8550 inside) with a hidden toolbar 420 high; the surface fills it and has a border of
+// 60, so it starts 11820 x 8490 inside. Growing the form runs its on_resize handler at once, as a
+// host's resize event does, and that handler may call back into the component.
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -83,9 +82,8 @@ TEST_F(WindowTest, ASurfaceLargerThanTheFormGrowsTheFormUnlessMaximised) {
   EXPECT_EQ(TakeLog(), "Hauteur 9360 False\nLargeur 13020 False\nRecadre\n");
   EXPECT_EQ(Layout(), "13020x9360 at 0,435 in 13200x10320");
 
-  // Maximised, the form keeps the screen's 28800 x 16200, and the surface,
-  // larger than the room, goes to (28680 - 31980) / 2, 420 + (15750 - 420 -
-  // 18780) / 2.
+  // Maximised, the form keeps the screen's 28800 x 16200, and the surface, larger than the room,
+  // goes to (28680 - 31980) / 2, 420 + (15750 - 420 - 18780) / 2.
   Form().SetWindowState(2);
   ky.DimensionFeuille(60, 300);
   EXPECT_EQ(TakeLog(), "Hauteur 18720 False\nLargeur 31920 False\n");
