@@ -55,11 +55,9 @@ TEST_F(EditLoopTest, WindowScrollsAtTheEdgesAndJumpsBack) {
 
   // A Col below 1 in mode "E" starts the caret left of the field: the
   // first pass draws, then the repeat default's Mid refuses position 0.
-  ExpectPlatformError(
-      [&] {
-        Edit({text, 20, u"C", u"E", 0, u"B", 10}, "{Enter}");
-      },
-      5, "Invalid procedure call or argument: Mid from a position below 1");
+  const Field left_of_it{text, 20, u"C", u"E", 0, u"B", 10};
+  ExpectPlatformError([&] { Edit(left_of_it, "{Enter}"); }, 5,
+                      "Invalid procedure call or argument: Mid from a position below 1");
 }
 
 TEST_F(EditLoopTest, HiddenMaskedAndDateValuesShowAsTheirKindWants) {
