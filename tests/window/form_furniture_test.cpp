@@ -89,10 +89,8 @@ TEST_F(MessageZonePictureTest, TheZoneShowsThePictureItselfAndKeepsItWhenHidden)
 
 // The form's caption and the vertical rules: a column is 105 wide and a line 312 high.
 TEST_F(CaptionTest, TitreComposesTheCaptionWithOnlyTheCompanyTrimmed) {
-  Set({{"Env.DateTitre", " 31/12/2026 "},
-       {"Env.EnteteTexte", "Paie "},
-       {"Env.CodeEnt", " 042 "},
-       {"Env.NomEnt", "  Dupont & Fils   "}});
+  Set(Json::parse(R"({"Env.DateTitre": " 31/12/2026 ", "Env.EnteteTexte": "Paie ",
+                      "Env.CodeEnt": " 042 ", "Env.NomEnt": "  Dupont & Fils   "})"));
   Call("Titre", {"Bulletins "});
   EXPECT_EQ(Get("KyF.Caption"),
             "Bulletins  au  31/12/2026  - Paie  -  Code Ent  042  :   Dupont & Fils");
