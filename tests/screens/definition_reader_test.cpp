@@ -117,8 +117,7 @@ TEST_F(ReaderTest, FortyFieldsFitAndAFortyFirstRaisesNineKeepingTheTable) {
 TEST_F(ReaderTest, NumbersBeyondIntegerRaiseOverflow) {
   for (const String definition :
        {u"[[A,a,A,40000]]", u"[@COL40000]", u"[[A,a,A,5,S-32768]]", u"[[A,a,A,5,1e10]]"}) {
-    String list = definition;
-    ExpectPlatformError([&] { ky.Dorvi(list); }, 6);
+    ExpectPlatformError([&] { Read(definition); }, 6);
   }
 }
 
