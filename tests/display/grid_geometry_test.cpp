@@ -24,9 +24,7 @@ TEST_F(GridGeometryTest, LinesAndColumnsToSurfaceUnitsAndBack) {
   }
   SetInnerSize(1102.5f, 3276);  // 10.5 pitches up to 11 lines, 10.5 columns to even
   EXPECT_EQ(std::tuple(ky.NbLigne(), ky.NbCol()), std::tuple(11, 10));
-}
-
-TEST_F(GridGeometryTest, HauteurTexteRoundsToEvenBeforeThePitch) {
+  // HauteurTexte rounds to even before the pitch is taken.
   Zone().Font().SetSize(5);  // 97.5 high
   EXPECT_EQ(ky.HauteurTexte(), 98);
   EXPECT_EQ(ky.WinLigne(2.5f), 392.0f);  // not 390

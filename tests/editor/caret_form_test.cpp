@@ -42,8 +42,7 @@ TEST_F(CaretTest, CaretStandsUnderTheCharacterAsWideAsItWhileTheFieldWaits) {
   EXPECT_EQ(std::tuple(caret.Left(), caret.Top(), caret.Width()), std::tuple(kCT + 315, 790, 105));
   EXPECT_FALSE(caret.Visible());  // hidden once the key came
 
-  // Wider letters push the caret further; the top rounds 624 + 390 x 0.85
-  // = 955.5 to the even 956.
+  // Wider letters push the caret further; the top rounds 624 + 390 x 0.85 = 955.5 to the even 956.
   Zone().Font().SetSize(20);
   Edit(At(u"hello", 4), "{wait:2}{Enter}");
   EXPECT_EQ(std::tuple(caret.Left(), caret.Top(), caret.Width()), std::tuple(kCT + 630, 956, 210));
@@ -61,7 +60,7 @@ TEST_F(CaretTest, CaretStandsUnderTheCharacterAsWideAsItWhileTheFieldWaits) {
   EXPECT_NE(caret.Left(), 3000);
 }
 
-TEST_F(CaretTest, ACaretControlPutInItsPlaceIsTheOneMoved) {
+TEST_F(CaretTest, TheCaretIsTheFormsControlOfThatName) {
   Edit(At(u"hello", 4), "{wait:2}{Enter}");
   const auto first = CaretControl(St());
   const auto second = session.NewPictureBox();
@@ -69,6 +68,9 @@ TEST_F(CaretTest, ACaretControlPutInItsPlaceIsTheOneMoved) {
   Edit(At(u"hello", 2), "{wait:2}{Enter}");
   EXPECT_EQ(std::pair(second->Left(), second->Width()), std::pair(kCT + 105, 105.0F));
   EXPECT_EQ(first->Left(), kCT + 3 * 105);  // left where it was
+  // A form without one fails at the field's set-up.
+  Env().form = std::make_shared<forms::Form>(headless::Session::kFormHandle, 28800, 16200);
+  ExpectPlatformError([&] { Edit({u"abc"}, ""); }, 438);
 }
 
 TEST_F(CaretTest, CaretBlinksOnlyWhileTheFormIsInFront) {
@@ -107,11 +109,6 @@ TEST_F(CaretTest, BlinkPhaseCarriesOverUnlessTheCaretMovesSideways) {
   Env().Abandon = false;
   Edit(At(u"abc", 1), "{wait:600}{Right}{wait:100}{abandon}");
   EXPECT_TRUE(CaretControl(St())->Visible());
-}
-
-TEST_F(CaretTest, FormWithoutCaretFailsAtSetUp) {
-  Env().form = std::make_shared<forms::Form>(headless::Session::kFormHandle, 28800, 16200);
-  ExpectPlatformError([&] { Edit({u"abc"}, ""); }, 438);
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
-// The pass and the end of Modif as the surface sees them, the abandon and
-// the virtual keyboard.
+// The pass and the end of Modif as the surface sees them, the abandon and the virtual keyboard.
 #include <gtest/gtest.h>
 
 #include "editor/caret_form.hpp"
@@ -56,7 +55,8 @@ TEST_F(EditLoopTest, WindowScrollsAtTheEdgesAndJumpsBack) {
 
   // A Col below 1 in mode "E" starts the caret left of the field: the
   // first pass draws, then the repeat default's Mid refuses position 0.
-  ExpectPlatformError([&] { Edit({text, 20, u"C", u"E", 0, u"B", 10}, "{Enter}"); }, 5,
+  const Field left_of_it{text, 20, u"C", u"E", 0, u"B", 10};
+  ExpectPlatformError([&] { Edit(left_of_it, "{Enter}"); }, 5,
                       "Invalid procedure call or argument: Mid from a position below 1");
 }
 

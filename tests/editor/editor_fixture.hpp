@@ -1,6 +1,5 @@
-// The fixture of the field editor's suites: one field on line 2 of the
-// headless surface, edited by a real call of Modif while the key script
-// plays through the event loop.
+// The fixture of the field editor's suites: one field on line 2 of the headless surface, edited by
+// a real call of Modif while the key script plays through the event loop.
 #pragma once
 
 #include <ostream>
@@ -42,8 +41,7 @@ struct Outcome {
 
 class EditorTest : public SessionTest {
  protected:
-  // The field: line 2 (LT 624), column 5 (CT 525), in an entry box from
-  // CzT 420, LzT 2520 wide.
+  // The field: line 2 (LT 624), column 5 (CT 525), in an entry box from CzT 420, LzT 2520 wide.
   static constexpr Single kCT = 525;
 
   // Queues `keys`, then runs Modif on the field.

@@ -14,8 +14,7 @@
 
 namespace ferlan::testing {
 
-// The stored form a host keeps for a number: its bytes, least significant
-// first, one a character.
+// The stored form a host keeps for a number: its bytes, least significant first, one a character.
 template <typename Bits, typename T>
 String Stored(T v) {
   String s;

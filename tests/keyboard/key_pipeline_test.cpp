@@ -35,18 +35,15 @@ Received WaitForKey(String r = u"") {
 // the repeat key hands R back.
 TEST_F(KeyPipelineTest, ScriptedKeysReachSaisieAsKeyCodes) {
   const std::tuple<const char*, Integer, const char16_t*> cases[] = {
-      {"{Left}", 37, u"R"},          {"{Shift+Tab}", 1009, u"R"}, {"{Ctrl+Shift+Left}", 3037, u"R"},
-      {"{Alt+R}", 4082, u"R"},       {"{Shift+F1}", 1112, u"R"},  {"{Ctrl+B}", 0, u"\x02"},
-      {"{Shift+a}", 0, u"A"},        {"{Ctrl+C}", 2067, u"R"},    {"{Ctrl+Shift+C}", 0, u"\x03"},
-      {"{Alt+C}", 4067, u"R"},       {"{Enter}", 13, u"R"},       {"\xE2\x82\xAC", 0, u"\u20AC"},
+      {"{Left}", 37, u"R"},    {"{Shift+Tab}", 1009, u"R"}, {"{Ctrl+Shift+Left}", 3037, u"R"},
+      {"{Alt+R}", 4082, u"R"}, {"{Shift+F1}", 1112, u"R"},  {"{Ctrl+B}", 0, u"\x02"},
+      {"{Shift+a}", 0, u"A"},  {"{Ctrl+C}", 2067, u"R"},    {"{Ctrl+Shift+C}", 0, u"\x03"},
+      {"{Alt+C}", 4067, u"R"}, {"{Enter}", 13, u"R"},       {"\xE2\x82\xAC", 0, u"\u20AC"},
       {"{Ctrl+R}", 0, u"R"}};
   for (const auto& [script, code, r] : cases) {
     Type(script);
     EXPECT_EQ(WaitForKey(u"R"), (Received{r, code})) << script;
   }
-}
-
-TEST_F(KeyPipelineTest, KeysThatStoreNothingLeaveTheWaitRunning) {
   // Caps Lock alone, KeyCode 0 with the KeyPress that follows, and Shift
   // alone store nothing; the wait then takes the next real key.
   Type("{CapsLock}{down:0:0}{press:97}{down:16:1}z");
@@ -169,8 +166,7 @@ TEST_F(KeyPipelineTest, VirtualKeysComeOutAfterTheBlankingKeyAndBeforeHomeAndT) 
   EXPECT_EQ(ReadAll(), (Keys{{40, u""}}));
   // A text with brackets, commas and quotes travels through the list intact.
   k.ClavierVirtuel(u"[a,\"]", 0, false);
-  EXPECT_EQ(ReadAll(),
-            (Keys{{0, u"["}, {0, u"a"}, {0, u","}, {0, u"\""}, {0, u"]"}, {36, u""}}));
+  EXPECT_EQ(ReadAll(), (Keys{{0, u"["}, {0, u"a"}, {0, u","}, {0, u"\""}, {0, u"]"}, {36, u""}}));
 }
 
 TEST_F(KeyPipelineTest, KeyOutsideTheCodePageFailsAfterWhatWasAdded) {

@@ -61,11 +61,15 @@ TEST_F(ReaderTest, LinesAreRelativeAbsoluteOrTwoBelow) {
   Read(
       u"[[A,a,A,5,S3],[B,b,A,5,S3],[C,c,A,5,\"\"],[D,d,A,5,S],[E,e,A,5,12],[F,f,A,5,s2],"
       u"[G,g,A,5,\" \"]]");
-  // S3 on the first field has no effect; an empty or blank line is -2 like
-  // a missing one; "S" alone and "s2" (not "S") are the same line.
+  // S3 on the first field has no effect, it takes the display line; an empty or blank line is -2
+  // like a missing one; "S" alone and "s2" (not "S") are the same line.
   const Integer lines[] = {2, 5, 7, 7, 12, 12, 14};
   ASSERT_EQ(NbRub(), 7);
   for (int i = 1; i <= 7; ++i) EXPECT_EQ(Rub(i).L, lines[i - 1]) << i;
+  // An absolute line on the first field wins over the display line.
+  ky.AffPos(6);
+  Read(u"[[A,a,A,5,3],[B,b,A,5]]");
+  EXPECT_EQ(std::tuple(Rub(1).L, Rub(2).L), std::tuple(3, 5));
 }
 
 TEST_F(ReaderTest, ColoursComeFromCommandsOrPositionEightAndKeepOneCharacter) {
@@ -113,8 +117,7 @@ TEST_F(ReaderTest, FortyFieldsFitAndAFortyFirstRaisesNineKeepingTheTable) {
 TEST_F(ReaderTest, NumbersBeyondIntegerRaiseOverflow) {
   for (const String definition :
        {u"[[A,a,A,40000]]", u"[@COL40000]", u"[[A,a,A,5,S-32768]]", u"[[A,a,A,5,1e10]]"}) {
-    String list = definition;
-    ExpectPlatformError([&] { ky.Dorvi(list); }, 6);
+    ExpectPlatformError([&] { Read(definition); }, 6);
   }
 }
 

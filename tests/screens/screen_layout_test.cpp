@@ -19,8 +19,8 @@ class LayoutTest : public ScreenTest {
     const RubRecord& r = Rub(i);
     std::ostringstream out;
     out << ToUtf8(r.Identif.Trimmed()) << " " << ToUtf8(r.Coul.Trimmed()) << " " << r.LC << " "
-        << r.LcT << " " << r.LzT << " " << r.L << " " << r.ClT << " " << r.CzT << " " << r.CT
-        << " " << r.LlT;
+        << r.LcT << " " << r.LzT << " " << r.L << " " << r.ClT << " " << r.CzT << " " << r.CT << " "
+        << r.LlT;
     return out.str();
   }
 };
@@ -77,14 +77,6 @@ TEST_F(LayoutTest, SharedLabelWidthComesFromLineStartersWithAutomaticWidth) {
   EXPECT_EQ(Rub(2).ClT, Rub(1).CzT + Rub(1).LzT + 105);
   // A yes/no field is 5 columns wide in all; "D2" keeps its given width.
   EXPECT_EQ(std::tuple(Rub(5).LC, Rub(5).LzT, Rub(6).LC), std::tuple(3, 525, 7));
-}
-
-TEST_F(LayoutTest, FirstFieldTakesTheDisplayLineUnlessItsLineIsAbsolute) {
-  ky.AffPos(6);
-  Read(u"[[A,a,A,5,S3],[B,b,A,5,S3]]");
-  EXPECT_EQ(std::tuple(Rub(1).L, Rub(2).L), std::tuple(6, 9));
-  Read(u"[[A,a,A,5,3],[B,b,A,5]]");
-  EXPECT_EQ(std::tuple(Rub(1).L, Rub(2).L), std::tuple(3, 5));
 }
 
 TEST_F(LayoutTest, SizingUsesTheLastFieldsLineBeforeAnyDrawing) {

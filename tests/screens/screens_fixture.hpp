@@ -1,6 +1,5 @@
-// The fixtures of the entry-screen suites: a headless session on the
-// fixed-metric surface (a column 105 wide, a line 312 high, MargeX and
-// MargeY 1), and the record table of its apartment.
+// The fixtures of the entry-screen suites: a headless session on the fixed-metric surface (a column
+// 105 wide, a line 312 high, MargeX and MargeY 1), and the record table of its apartment.
 #pragma once
 
 #include "component/module_state.hpp"
@@ -33,8 +32,7 @@ class FieldTest : public SessionTest {
   RubRecord& Record(Integer n) { return State().Rub.at(static_cast<std::size_t>(n)); }
 };
 
-// Screens read by Dorvi, with a palette of small numbers so that drawing
-// logs read easily.
+// Screens read by Dorvi, with a palette of small numbers so that drawing logs read easily.
 class ScreenTest : public FieldTest {
  protected:
   void SetUp() override {
