@@ -100,19 +100,14 @@ TEST(BmpDecoderTest, RefusesWhatItCannotRead) {
   }
 }
 
-// Global: the text clipboard, and pictures loaded from bytes.
 struct IdleLoop final : EventLoop {
   void DoEvents() override {}
   TimerRef CreateTimer(std::function<void()>) override { return nullptr; }
 };
 
-class GlobalTest : public ::testing::Test {
- protected:
+TEST(GlobalTest, ClipboardHoldsTextOnlyAndPicturesLoadFromBmpOrThroughThePngDecoder) {
   IdleLoop loop;
   Global global{loop, Screen(19200, 15360)};
-};
-
-TEST_F(GlobalTest, ClipboardHoldsTextOnly) {
   ferlan::Clipboard& clipboard = global.Clipboard();
   clipboard.SetText(u"12,50 €");
   EXPECT_EQ(clipboard.GetText(1), u"12,50 €");
@@ -120,9 +115,7 @@ TEST_F(GlobalTest, ClipboardHoldsTextOnly) {
   EXPECT_EQ(clipboard.GetText(), u"");
   ExpectPlatformError([&] { clipboard.SetText(u"x", 2); }, 5);
   ExpectPlatformError([&] { clipboard.GetText(0xBF01); }, 5);
-}
 
-TEST_F(GlobalTest, LoadPictureReadsBmpAndHandsPngToItsDecoder) {
   auto picture = std::dynamic_pointer_cast<Bitmap>(global.LoadPicture(kHandmade));
   EXPECT_EQ(picture->Pixels(), kTopFirst);
   const std::vector<std::uint8_t> png{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0};
