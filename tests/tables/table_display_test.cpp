@@ -50,10 +50,8 @@ TEST_F(TableAutomateTest, TheClientTableGetsItsColumnsCellsAndLines) {
   };
   for (const Column& c : {Column{0, " Nom du client", 945, 3465}, Column{11, " Ville", 4410, 1575},
                           Column{22, " Code Postal", 5985, 1470}}) {
-    EXPECT_EQ(ops[c.first_op], Json::parse("[\"Cadre3D\"," + std::to_string(bleu) + "," +
-                                           std::to_string(jaune) + ",\"" + c.title + "\",1502," +
-                                           std::to_string(c.left) + "," +
-                                           std::to_string(c.width) + ",312,\"3D\",0,\"G\"]"));
+    EXPECT_EQ(ops[c.first_op], Json::array({"Cadre3D", bleu, jaune, c.title, 1502, c.left, c.width,
+                                            312, "3D", 0, "G"}));
     for (int row = 1; row <= 10; ++row) {
       EXPECT_EQ(ops[c.first_op + static_cast<std::size_t>(row)],
                 Json::array({"Rectangle", blanc, 1502 + 312 * row, c.left, c.width, 312}))

@@ -18,7 +18,18 @@
 namespace ferlan::tool {
 namespace {
 
-using AutomateTest = AutomateFixture;
+class AutomateTest : public AutomateFixture {
+ protected:
+  // The error number of a request that must be refused.
+  Json Refused(std::string_view line) {
+    const Json answer = Ask(line);
+    EXPECT_EQ(answer["ok"], false) << line;
+    return answer["error"]["number"];
+  }
+  std::string Description(std::string_view line) {
+    return Ask(line)["error"]["description"].get<std::string>();
+  }
+};
 
 TEST_F(AutomateTest, CallAnswersResultAndArgumentsAfterTheCall) {
   EXPECT_EQ(session.Handle(R"({"call":"WinLigne","args":[2.5]})"),
@@ -53,20 +64,14 @@ TEST_F(AutomateTest, BadRequestsAreRefusedWithTheirNumberAndTheSessionGoesOn) {
       {R"({"get":["Rub.41.L"]})", 9}, {R"({"get":["Rub.-1.L"]})", 9},
       {R"({"get":["Rub.1.Nope"]})", 438}, {R"({"get":["Rub.1"]})", 438},
       {R"({"get":["Rub.x.L"]})", 5}, {R"({"set":{"Rub.1.L":3}})", 5}, {R"({"set":{"NbRub":3}})", 5}};
-  for (const auto& [line, number] : cases) {
-    const Json answer = Ask(line);
-    EXPECT_EQ(answer["ok"], false) << line;
-    EXPECT_EQ(answer["error"]["number"], number) << line;
-  }
+  for (const auto& [line, number] : cases) EXPECT_EQ(Refused(line), number) << line;
   EXPECT_EQ(Ask(R"({"call":"WinLigne","args":[1]})")["result"], 312);
   // Nesting is bounded while parsing: ten million levels stop at the limit.
   const std::string deep(kMaxRequestDepth + 1, '[');
-  EXPECT_NE(Ask(deep)["error"]["description"].get<std::string>().find("nests at most"),
-            std::string::npos);
+  EXPECT_NE(Description(deep).find("nests at most"), std::string::npos);
   const std::string shallow = std::string(kMaxRequestDepth, '[') + std::string(kMaxRequestDepth, ']');
-  EXPECT_NE(Ask(shallow)["error"]["description"].get<std::string>().find("a JSON object"),
-            std::string::npos);
-  EXPECT_EQ(Ask(std::string(10'000'000, '['))["ok"], false);
+  EXPECT_NE(Description(shallow).find("a JSON object"), std::string::npos);
+  Refused(std::string(10'000'000, '['));
 }
 
 TEST_F(AutomateTest, KeysReachAWaitAndAnEmptyScriptStarvesForOneCall) {
@@ -80,44 +85,41 @@ TEST_F(AutomateTest, KeysReachAWaitAndAnEmptyScriptStarvesForOneCall) {
 }
 
 TEST_F(AutomateTest, GetSetNewLogAndResetAndAFailingSetChangesNothing) {
-  EXPECT_EQ(Ask(R"({"set":{"Env.ToucheEntree":10,"Form.WindowState":2,"Clipboard":"hé"}})")["ok"],
-            true);
+  Ok(R"({"set":{"Env.ToucheEntree":10,"Form.WindowState":2,"Clipboard":"hé"}})");
   EXPECT_EQ(Ask(R"({"get":["Env.ToucheEntree","Form.WindowState","Clipboard"]})")["values"],
             Json::parse(R"({"Env.ToucheEntree":10,"Form.WindowState":2,"Clipboard":"hé"})"));
-  EXPECT_EQ(Ask(R"({"new":{"name":"pic","kind":"PictureBox","set":{"Width":600}}})")["ok"], true);
+  Ok(R"({"new":{"name":"pic","kind":"PictureBox","set":{"Width":600}}})");
   Ask(R"({"log":true})");
   Ask(R"({"call":"EffaceZoneSaisie","args":[312,105,1000,-1,{"obj":"pic"}]})");
-  EXPECT_EQ(Ask(R"({"log":true})")["ops"], Json::parse(R"([["EffaceRect",107,312,1102,506,-1]])"));
-  EXPECT_EQ(Ask(R"({"log":true})")["ops"], Json::array());
+  EXPECT_EQ(Log(), Json::parse(R"([["EffaceRect",107,312,1102,506,-1]])"));
+  EXPECT_EQ(Log(), Json::array());
   Ask(R"({"reset":true})");
   EXPECT_EQ(Get("Env.ToucheEntree"), 13);
   EXPECT_EQ(Get("Env"), Json::parse(R"({"obj":"Env"})")) << "an object is answered by its name";
   Ask(R"({"set":{"Env.ZoneAff":null}})");
-  EXPECT_EQ(Ask(R"({"set":{"Env.ZoneAff":{"obj":"ZoneAff"}}})")["ok"], true)
-      << "the session's surface is given back by its name";
+  Ok(R"({"set":{"Env.ZoneAff":{"obj":"ZoneAff"}}})");  // the surface given back by its name
   EXPECT_EQ(Get("Env.ZoneAff"), Json::parse(R"({"obj":"ZoneAff"})"));
-  EXPECT_EQ(Ask(R"({"get":["pic.Width"]})")["ok"], false);
+  Refused(R"({"get":["pic.Width"]})");
 
-  EXPECT_EQ(Ask(R"({"set":{"Env.ToucheEntree":10,"Clipboard":"new","Env.Nope":1}})")["error"]["number"],
-            438);
-  EXPECT_EQ(Ask(R"({"set":{"Env.ToucheEntree":10,"Env.ToucheVide":[1]}})")["ok"], false);
+  EXPECT_EQ(Refused(R"({"set":{"Env.ToucheEntree":10,"Clipboard":"new","Env.Nope":1}})"), 438);
+  Refused(R"({"set":{"Env.ToucheEntree":10,"Env.ToucheVide":[1]}})");
   EXPECT_EQ(Get("Env.ToucheEntree"), 13);
   EXPECT_EQ(Get("Clipboard"), "");
-  ASSERT_EQ(Ask(R"({"new":{"name":"pic","set":{"Width":600}}})")["ok"], true);
-  EXPECT_EQ(Ask(R"({"new":{"name":"pic","set":{"Width":900,"Nope":1}}})")["ok"], false);
+  Ok(R"({"new":{"name":"pic","set":{"Width":600}}})");
+  Refused(R"({"new":{"name":"pic","set":{"Width":900,"Nope":1}}})");
   EXPECT_EQ(Get("pic.Width"), 600) << "the earlier object keeps its name";
-  EXPECT_EQ(Ask(R"({"new":{"name":"other","set":{"Nope":1}}})")["ok"], false);
-  EXPECT_EQ(Ask(R"({"get":["other.Width"]})")["error"]["number"], 438);
+  Refused(R"({"new":{"name":"other","set":{"Nope":1}}})");
+  EXPECT_EQ(Refused(R"({"get":["other.Width"]})"), 438);
 }
 
 TEST_F(AutomateTest, FontPropertiesAreReachedByNestedNames) {
-  EXPECT_EQ(Ask(R"({"set":{"ZoneAff.Font.Size":12,"ZoneAff.Font.Bold":true}})")["ok"], true);
+  Ok(R"({"set":{"ZoneAff.Font.Size":12,"ZoneAff.Font.Bold":true}})");
   EXPECT_EQ(Ask(R"({"call":"HauteurTexte"})")["result"], 234);  // 19.5 x 12
   Ask(R"({"new":{"name":"pic","set":{"Width":600,"Font.Size":8}}})");
   EXPECT_EQ(Get("pic.Font.Size"), 8);
   for (const char* bad : {R"({"get":["ZoneAff.Font.Colour"]})", R"({"get":["ZoneAff.Width.Size"]})",
                           R"({"set":{"ZoneAff.Font.":1}})"}) {
-    EXPECT_EQ(Ask(bad)["error"]["number"], 438) << bad;
+    EXPECT_EQ(Refused(bad), 438) << bad;
   }
 }
 
@@ -165,7 +167,7 @@ TEST_F(AutomateTest, RunAnswersEveryLineInOrderAndEndsWhenAnAnswerIsLost) {
   EXPECT_EQ(Get("Env.ToucheEntree"), 13) << "no request is evaluated after a lost answer";
 }
 
-class PictureObjectTest : public AutomateFixture {
+class PictureObjectTest : public AutomateTest {
  protected:
   std::filesystem::path dir = std::filesystem::temp_directory_path() /
                               ("ferlan_pictures_" + std::to_string(::getpid()));
@@ -189,15 +191,13 @@ TEST_F(PictureObjectTest, MissingOrBadFilesGiveClearErrors) {
   std::ofstream(dir / "text.bmp") << "not a picture";
   for (const std::string& file :
        {(dir / "none.bmp").string(), (dir / "text.bmp").string(), dir.string()}) {
-    const Json answer = Ask(R"({"new":{"name":"p","kind":"Picture","file":")" + file + "\"}}");
-    EXPECT_EQ(answer["ok"], false);
-    EXPECT_EQ(answer["error"]["number"], 5);
-    EXPECT_NE(answer["error"]["description"].get<std::string>().find(file), std::string::npos)
-        << answer.dump();
+    const std::string line = R"({"new":{"name":"p","kind":"Picture","file":")" + file + "\"}}";
+    EXPECT_EQ(Refused(line), 5);
+    EXPECT_NE(Description(line).find(file), std::string::npos) << line;
   }
-  EXPECT_EQ(Ask(R"({"new":{"name":"p","kind":"Picture"}})")["error"]["number"], 5);
-  EXPECT_EQ(Ask(R"({"new":{"name":"p","file":"x.bmp"}})")["error"]["number"], 5);
-  EXPECT_EQ(Ask(R"({"call":"ImageSD","args":["X",null]})")["error"]["number"], 91);
+  EXPECT_EQ(Refused(R"({"new":{"name":"p","kind":"Picture"}})"), 5);
+  EXPECT_EQ(Refused(R"({"new":{"name":"p","file":"x.bmp"}})"), 5);
+  EXPECT_EQ(Refused(R"({"call":"ImageSD","args":["X",null]})"), 91);
 }
 
 TEST(FarDrawingTest, TextBoxesAndFieldsFarOffAreAnsweredOnEverySurface) {
@@ -227,35 +227,30 @@ TEST(FarDrawingTest, TextBoxesAndFieldsFarOffAreAnsweredOnEverySurface) {
   }
 }
 
-TEST(FarDrawingTest, AFormTooLargeForAPictureIsAnErrorAndTheSessionGoesOn) {
+TEST(PngRequestTest, AFormTooLargeOrAFileNotRegularIsAnErrorAndTheSessionGoesOn) {
   const auto kind = SurfaceByName("raster");
   if (!kind) GTEST_SKIP() << "the raster back-end was not built";
   AutomateSession session{*kind};
-  session.Handle(R"({"set":{"Form.Width":1e9,"Form.Height":1e9}})");
-  const Json answer = Json::parse(session.Handle(R"({"png":"never-written.png"})"));
+  const auto ask = [&](const std::string& line) { return Json::parse(session.Handle(line)); };
+  ask(R"({"set":{"Form.Width":1e9,"Form.Height":1e9}})");
+  const Json answer = ask(R"({"png":"never-written.png"})");
   EXPECT_EQ(answer["ok"], false);
   EXPECT_EQ(answer["error"]["number"], 51);
-  EXPECT_EQ(Json::parse(session.Handle(R"({"call":"WinLigne","args":[1]})"))["ok"], true);
+  EXPECT_EQ(ask(R"({"call":"WinLigne","args":[1]})")["ok"], true);
   // A control whose image cannot grow keeps the size of the image it has.
-  const Json grown = Json::parse(session.Handle(R"({"set":{"ZoneAff.Height":1e9}})"));
-  EXPECT_EQ(grown["error"]["number"], 51);
-  EXPECT_EQ(Json::parse(session.Handle(R"({"get":["ZoneAff.Height"]})"))["values"]["ZoneAff.Height"],
-            8550);
-}
-
-TEST(PngRequestTest, APictureGoesToARegularFileOnly) {
-  const auto kind = SurfaceByName("raster");
-  if (!kind) GTEST_SKIP() << "the raster back-end was not built";
-  AutomateSession session{*kind};
+  EXPECT_EQ(ask(R"({"set":{"ZoneAff.Height":1e9}})")["error"]["number"], 51);
+  EXPECT_EQ(ask(R"({"get":["ZoneAff.Height"]})")["values"]["ZoneAff.Height"], 8550);
+  // At the usual size, a picture goes to a regular file only.
+  ask(R"({"reset":true})");
   for (const char* target : {"/dev/null", "/dev/stdout", "/tmp"}) {
-    const Json answer = Json::parse(session.Handle(Json{{"png", target}}.dump()));
-    EXPECT_EQ(answer["ok"], false) << target;
-    EXPECT_EQ(answer["error"]["number"], 5) << target;
+    const Json refused = ask(Json{{"png", target}}.dump());
+    EXPECT_EQ(refused["ok"], false) << target;
+    EXPECT_EQ(refused["error"]["number"], 5) << target;
   }
   const std::string file = testing::TempDir() + "ferlan-png-request.png";
   std::remove(file.c_str());
-  EXPECT_EQ(Json::parse(session.Handle(Json{{"png", file}}.dump()))["ok"], true);
-  EXPECT_EQ(Json::parse(session.Handle(Json{{"png", file}}.dump()))["ok"], true);  // overwritten
+  EXPECT_EQ(ask(Json{{"png", file}}.dump())["ok"], true);
+  EXPECT_EQ(ask(Json{{"png", file}}.dump())["ok"], true);  // overwritten
   std::remove(file.c_str());
 }
 

@@ -42,8 +42,6 @@ class CommaLocale {
     if (!Try()) why_not_ = "fr_FR.UTF-8 built but setlocale refuses it";
   }
   ~CommaLocale() { std::setlocale(LC_ALL, "C"); }
-  CommaLocale(const CommaLocale&) = delete;
-  CommaLocale& operator=(const CommaLocale&) = delete;
 
   // Empty when the comma locale is current.
   const std::string& WhyNot() const { return why_not_; }

@@ -68,26 +68,17 @@ Bytes ThirtyTwoBit(std::int32_t height, bool masks) {
   return With(b, 2, static_cast<std::uint32_t>(b.size()));
 }
 
-std::vector<Rgb> TopFirst(const Bitmap& bmp) {
-  std::vector<Rgb> pixels;
-  const int width = bmp.PixelWidth();
-  for (int i = 0; i < width * bmp.PixelHeight(); ++i)
-    pixels.push_back(bmp.Pixel(i % width, i / width));
-  return pixels;
-}
-
 TEST(BmpDecoderTest, ReadsTwentyFourAndThirtyTwoBitImagesEitherWayUp) {
   auto bmp = DecodeBmp(kHandmade);
-  ASSERT_EQ(bmp->PixelWidth(), 3);
-  EXPECT_EQ(TopFirst(*bmp), kTopFirst);
+  EXPECT_EQ(bmp->Pixels(), kTopFirst);
   EXPECT_EQ(std::pair(bmp->Width(), bmp->Height()), std::pair(45.0F, 30.0F));  // 15 twips a pixel
   // The same bytes read top first: the rows swap.
   const std::vector<Rgb> swapped = {kTopFirst[3], kTopFirst[4], kTopFirst[5],
                                     kTopFirst[0], kTopFirst[1], kTopFirst[2]};
-  EXPECT_EQ(TopFirst(*DecodeBmp(With(kHandmade, 22, static_cast<std::uint32_t>(-2)))), swapped);
+  EXPECT_EQ(DecodeBmp(With(kHandmade, 22, static_cast<std::uint32_t>(-2)))->Pixels(), swapped);
   const std::pair<int, bool> layouts[] = {{2, false}, {-2, false}, {2, true}};  // height, masks
   for (const auto& [height, masks] : layouts) {
-    EXPECT_EQ(TopFirst(*DecodeBmp(ThirtyTwoBit(height, masks))), kTopFirst) << height << masks;
+    EXPECT_EQ(DecodeBmp(ThirtyTwoBit(height, masks))->Pixels(), kTopFirst) << height << masks;
   }
 }
 
@@ -109,19 +100,14 @@ TEST(BmpDecoderTest, RefusesWhatItCannotRead) {
   }
 }
 
-// Global: the text clipboard, and pictures loaded from bytes.
 struct IdleLoop final : EventLoop {
   void DoEvents() override {}
   TimerRef CreateTimer(std::function<void()>) override { return nullptr; }
 };
 
-class GlobalTest : public ::testing::Test {
- protected:
+TEST(GlobalTest, ClipboardHoldsTextOnlyAndPicturesLoadFromBmpOrThroughThePngDecoder) {
   IdleLoop loop;
   Global global{loop, Screen(19200, 15360)};
-};
-
-TEST_F(GlobalTest, ClipboardHoldsTextOnly) {
   ferlan::Clipboard& clipboard = global.Clipboard();
   clipboard.SetText(u"12,50 €");
   EXPECT_EQ(clipboard.GetText(1), u"12,50 €");
@@ -129,11 +115,9 @@ TEST_F(GlobalTest, ClipboardHoldsTextOnly) {
   EXPECT_EQ(clipboard.GetText(), u"");
   ExpectPlatformError([&] { clipboard.SetText(u"x", 2); }, 5);
   ExpectPlatformError([&] { clipboard.GetText(0xBF01); }, 5);
-}
 
-TEST_F(GlobalTest, LoadPictureReadsBmpAndHandsPngToItsDecoder) {
   auto picture = std::dynamic_pointer_cast<Bitmap>(global.LoadPicture(kHandmade));
-  EXPECT_EQ(TopFirst(*picture), kTopFirst);
+  EXPECT_EQ(picture->Pixels(), kTopFirst);
   const std::vector<std::uint8_t> png{0x89, 'P', 'N', 'G', '\r', '\n', 0x1A, '\n', 0, 0};
   ExpectPlatformError([&] { global.LoadPicture(png); }, 445);
   auto decoded = std::make_shared<Bitmap>(2, 1, std::vector<Rgb>(2));

@@ -47,7 +47,7 @@ TEST_F(FormTest, InnerSizeResizingAndWindowStates) {
   ExpectPlatformError([&] { form.SetWindowState(3); }, 5);
 }
 
-TEST_F(FormTest, MembersByNameInAnyCaseAndTheToolbarDockedAlongTheTop) {
+TEST_F(FormTest, MembersAndPropertiesByNameInAnyCaseAndTheToolbarDockedAlongTheTop) {
   auto caret = std::make_shared<Control>();
   form.AddMember("Caret", caret);
   EXPECT_EQ(form.Member("caret"), caret);
@@ -62,9 +62,7 @@ TEST_F(FormTest, MembersByNameInAnyCaseAndTheToolbarDockedAlongTheTop) {
   form.SetWidth(15000);
   EXPECT_EQ(std::pair(bar->Left(), bar->Top()), std::pair(Single{0}, Single{0}));
   EXPECT_EQ(std::pair(bar->Width(), bar->Height()), std::pair(15000.0F - 120, 420.0F));
-}
 
-TEST_F(FormTest, PropertiesByNameInAnyCase) {
   form.SetProperty("Caption", Variant(String(u"Société")));
   EXPECT_EQ(form.Caption(), u"Société");
   form.SetProperty("KeyPreview", Variant(true));

@@ -17,22 +17,27 @@ void Start(const TimerRef& timer, Long interval_ms) {
   timer->SetInterval(interval_ms);
 }
 
-// A loop of its own on a form, skipping idle time or stepping 1 ms a call.
+// A loop of its own on a form, skipping idle time or stepping 1 ms a call;
+// Note keeps what happened and at which virtual time.
 struct OwnLoop {
-  OwnLoop(const std::shared_ptr<forms::Form>& form, bool skip) {
+  explicit OwnLoop(bool skip = false) {
     loop.SetForm(form);
     if (skip) loop.SetCallerIdle([] { return true; });
   }
-  void Note(const std::string& what) { notes += what + "@" + std::to_string(clock.Now()) + " "; }
+  void Note(const std::string& what) { events += what + "@" + std::to_string(clock.Now()) + " "; }
+  void Pump(int times) {
+    for (int i = 0; i < times; ++i) loop.DoEvents();
+  }
+  std::shared_ptr<forms::Form> form = std::make_shared<forms::Form>(1, 28800, 16200);
   VirtualClock clock;
   KeyScript script;
   EventLoop loop{clock, script};
-  std::string notes;
+  std::string events;
 };
 
-// A loop alone with a form whose handlers note what they get and when, then
-// zero the key code as a host may (KeyPress comes all the same); its own Abandon.
-class EventLoopTest : public ::testing::Test {
+// Handlers that note what they get and when, then zero the key code as a host
+// may (KeyPress comes all the same); the loop's own Abandon.
+class EventLoopTest : public ::testing::Test, protected OwnLoop {
  protected:
   EventLoopTest() {
     form->on_key_down = [this](Integer& k, Integer s) {
@@ -40,19 +45,8 @@ class EventLoopTest : public ::testing::Test {
       k = 0;
     };
     form->on_key_press = [this](Integer& a) { Note("P" + std::to_string(a)); };
-    loop.SetForm(form);
     loop.SetAbandonWriter([this](Boolean v) { Note((abandon = v) ? "abandon" : "resume"); });
   }
-  void Note(const std::string& what) { events += what + "@" + std::to_string(clock.Now()) + " "; }
-  void Pump(int times) {
-    for (int i = 0; i < times; ++i) loop.DoEvents();
-  }
-
-  VirtualClock clock;
-  KeyScript script;
-  EventLoop loop{clock, script};
-  std::shared_ptr<forms::Form> form = std::make_shared<forms::Form>(1, 28800, 16200);
-  std::string events;
   Boolean abandon = false;
 };
 
@@ -92,7 +86,7 @@ TEST_F(EventLoopTest, StarvesAtTenSecondsOfEmptyScript) {
 TEST_F(EventLoopTest, TimersFireOnTheVirtualClockInCreationOrder) {
   TimerRef slow = loop.CreateTimer([&] { Note("slow"); });
   TimerRef fast = loop.CreateTimer([&] { Note("fast"); });
-  Pump(3);  // a new timer is stopped
+  Pump(3);           // a new timer is stopped
   Start(slow, 500);  // counted from now, 3
   Start(fast, 250);
   Pump(500);
@@ -123,9 +117,9 @@ TEST_F(EventLoopTest, OneMsTimerTicksEachDoEventsWithoutReentryTillDropped) {
 // Idle time skipped: the same notes at the same virtual times as 1 ms a
 // call, for far fewer calls.
 TEST_F(EventLoopTest, SkippingIdleTimeKeepsEveryTimeAndCount) {
-  const auto run = [this](bool skip) {
-    OwnLoop own(form, skip);
-    form->on_key_press = [&](Integer& a) { own.Note("P" + std::to_string(a)); };
+  const auto run = [](bool skip) {
+    OwnLoop own(skip);
+    own.form->on_key_press = [&](Integer& a) { own.Note("P" + std::to_string(a)); };
     own.loop.SetAbandonWriter([&](Boolean v) { own.Note(v ? "abandon" : "resume"); });
     TimerRef fast = own.loop.CreateTimer([&] { own.Note("fast"); });
     TimerRef slow = own.loop.CreateTimer([&] {
@@ -138,7 +132,7 @@ TEST_F(EventLoopTest, SkippingIdleTimeKeepsEveryTimeAndCount) {
     while (!own.loop.Starved()) own.loop.DoEvents();
     fast->SetEnabled(false);
     slow->SetEnabled(false);
-    return std::make_pair(own.notes, own.loop.Calls());
+    return std::make_pair(own.events, own.loop.Calls());
   };
   const auto [stepped, stepped_calls] = run(false);
   const auto [skipped, skipped_calls] = run(true);
@@ -152,12 +146,12 @@ TEST_F(EventLoopTest, SkippingIdleTimeKeepsEveryTimeAndCount) {
 // A 1 ms timer coalesces over idle time, yet sees each change of a slower
 // timer 1 ms after it, as with 1 ms steps.
 TEST_F(EventLoopTest, OneMsTimerCoalescesYetSeesEveryChangeAtItsTime) {
-  const auto run = [this](bool skip) {
-    OwnLoop own(form, skip);
+  const auto run = [](bool skip) {
+    OwnLoop own(skip);
     int blinks = 0, seen = 0;
     TimerRef blink = own.loop.CreateTimer([&] { ++blinks; });
     TimerRef follow = own.loop.CreateTimer([&] {
-      if (seen != blinks) own.notes += std::to_string(own.clock.Now()) + " ";
+      if (seen != blinks) own.events += std::to_string(own.clock.Now()) + " ";
       seen = blinks;
     });
     Start(blink, 500);
@@ -166,7 +160,7 @@ TEST_F(EventLoopTest, OneMsTimerCoalescesYetSeesEveryChangeAtItsTime) {
     while (!own.script.Empty()) own.loop.DoEvents();
     blink->SetEnabled(false);
     follow->SetEnabled(false);
-    return std::make_pair(own.notes, own.loop.Calls());
+    return std::make_pair(own.events, own.loop.Calls());
   };
   const auto [stepped, stepped_calls] = run(false);
   const auto [skipped, skipped_calls] = run(true);
@@ -205,8 +199,9 @@ TEST(KeyScriptTest, TranslatesLikeAUsKeyboard) {
   const std::pair<const char*, const char*> cases[] = {
       {"a", "KeyDown(65,0) KeyPress(97)"},
       {"A{Shift+a}", "KeyDown(65,1) KeyPress(65) | KeyDown(65,1) KeyPress(65)"},
-      {"!}{{", "KeyDown(49,1) KeyPress(33) | KeyDown(221,1) KeyPress(125) | KeyDown(219,1) "
-               "KeyPress(123)"},
+      {"!}{{",
+       "KeyDown(49,1) KeyPress(33) | KeyDown(221,1) KeyPress(125) | KeyDown(219,1) "
+       "KeyPress(123)"},
       {"{Left}{pgdn}{F12}{Ctrl+Tab}",
        "KeyDown(37,0) | KeyDown(34,0) | KeyDown(123,0) | KeyDown(9,2)"},
       {"{Enter}{Shift+Tab}", "KeyDown(13,0) KeyPress(13) | KeyDown(9,1) KeyPress(9)"},

@@ -112,7 +112,7 @@ TEST(ChainesTest, HandWrittenAndMalformedListsReadAsWritten) {
   EXPECT_EQ(empty, u"[]");
 }
 
-TEST(ChainesTest, ListeValideGivesTheFirstWrongPosition) {
+TEST(ChainesTest, ListeValideGivesTheFirstWrongPositionWithoutRecursion) {
   // The list, then 0 when valid or the first wrong position.
   // clang-format off
   const std::vector<std::pair<String, Long>> cases = {
@@ -122,9 +122,6 @@ TEST(ChainesTest, ListeValideGivesTheFirstWrongPosition) {
       {u"[a\"b\"]", 3}, {u"[\"a\"b]", 5}, {u"[\"ab]", 6}, {u"[[a]b]", 5}, {u"[[a],[b]", 9}};
   // clang-format on
   for (const auto& [list, wrong_at] : cases) EXPECT_EQ(WrongAt(list), wrong_at) << Show(list);
-}
-
-TEST(ChainesTest, DeepNestingReadsWithoutRecursion) {
   const String deep = String(100000, u'[') + u"a" + String(100000, u']');
   EXPECT_EQ(WrongAt(deep), 0);
   EXPECT_EQ(ReadAll(deep), std::vector<String>{deep.substr(1, deep.size() - 2)});

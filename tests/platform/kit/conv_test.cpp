@@ -16,7 +16,7 @@ namespace {
 
 using namespace std::string_literals;  // u"\0..."s keeps its zeros
 
-TEST(ConvBinaryTest, EveryIntegerAndAwkwardFloatComesBackBitForBit) {
+TEST(ConvBinaryTest, FormsAreLittleEndianAndComeBackBitForBit) {
   Conv conv;
   for (int v = std::numeric_limits<Integer>::min(); v <= std::numeric_limits<Integer>::max(); ++v) {
     ASSERT_EQ(conv.EntierBin(conv.BinEntier(static_cast<Integer>(v))), v);
@@ -38,10 +38,7 @@ TEST(ConvBinaryTest, EveryIntegerAndAwkwardFloatComesBackBitForBit) {
     ASSERT_EQ(packed.size(), 8u);
     EXPECT_EQ(std::bit_cast<std::uint64_t>(conv.ReelBin(packed)), bits) << std::hex << bits;
   }
-}
-
-TEST(ConvBinaryTest, FormsAreLittleEndianBytesAndShortTextsPadWithZero) {
-  Conv conv;
+  // Short texts pad with zero.
   EXPECT_EQ(conv.BinEntier(0x12FE), u"\xFE\x12"s);
   EXPECT_EQ(conv.BinSimple(1.0f), u"\0\0\x80\x3F"s);
   EXPECT_EQ(conv.BinReel(-2.5), u"\0\0\0\0\0\0\x04\xC0"s);
