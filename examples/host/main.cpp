@@ -26,10 +26,11 @@ int main() {
   String definition =
       u"[@COL10,[NOM,Nom du client,A,30],[VILLE,Ville,A,25],[TEL,Téléphone,A,14]]";
   k.Dorvi(definition);
-  k.MesBasEcran(u"Bleu", u"Entrée: champ suivant, Haut: champ précédent, Échap: fin");
+  k.MesBasEcran(u"Bleu", u"Entrée: champ suivant, Haut: champ précédent, F10: fin");
 
   // Each field entered by its identifier; Enter or Down goes on, Up goes
-  // back, Escape or closing the window ends.
+  // back, a function key or closing the window ends. Escape only blanks the
+  // field: the editor keeps it.
   const char16_t* ids[] = {u"NOM", u"VILLE", u"TEL"};
   String values[3];
   const auto& env = session->Env();
@@ -37,7 +38,7 @@ int main() {
   while (current < 3 && !env.Abandon) {
     Integer tr = 0;
     k.Sai(ids[current], values[current], tr);
-    if (env.Abandon || tr == env.ToucheVide) break;
+    if (env.Abandon || (tr >= env.ToucheF1 && tr <= env.ToucheF12)) break;
     current = tr == env.ToucheHaut ? (current > 0 ? current - 1 : 0) : current + 1;
   }
   for (int i = 0; i < 3; ++i) {
