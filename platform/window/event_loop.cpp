@@ -76,11 +76,12 @@ void EventLoop::Handle(const SDL_Event& event) {
       return;
     case SDL_KEYDOWN: {
       const Integer mask = ShiftMaskOf(event.key.keysym.mod);
-      const auto vk = VirtualKeyOf(event.key.keysym.sym, event.key.keysym.scancode);
+      auto vk = VirtualKeyOf(event.key.keysym.sym, event.key.keysym.scancode);
+      if (vk && (event.key.keysym.mod & KMOD_NUM) == 0) vk = KeypadKeyWithoutNumLock(*vk);
       if (!vk) {
         // A key the platform has no number for: what it types comes as
         // characters of their own.
-        text_may_follow_ = false;
+        next_text_ = NextText::kOwnKey;
         return;
       }
       headless::KeyItem item = Keystroke(*vk, mask);
@@ -89,13 +90,18 @@ void EventLoop::Handle(const SDL_Event& event) {
         item.key_ascii = *press;
       }
       keys_.push_back(item);
-      text_may_follow_ = !item.has_press && TextReachesKeyPress(mask);
+      if (!TextReachesKeyPress(mask)) {
+        next_text_ = NextText::kDropped;
+      } else {
+        next_text_ = item.has_press ? NextText::kOwnKey : NextText::kJoinsKey;
+      }
       return;
     }
     case SDL_TEXTINPUT: {
-      const bool joins_key = text_may_follow_ && !keys_.empty();
-      text_may_follow_ = false;
-      if (joins_key && !TextReachesKeyPress(keys_.back().shift)) return;
+      const bool joins_key = next_text_ == NextText::kJoinsKey && !keys_.empty();
+      const bool dropped = next_text_ == NextText::kDropped;
+      next_text_ = NextText::kOwnKey;
+      if (dropped) return;
       bool first = true;
       for (const Integer code : KeyPressCodesOf(event.text.text)) {
         if (first && joins_key) {
@@ -118,7 +124,7 @@ void EventLoop::Handle(const SDL_Event& event) {
         Close();
         return;
       }
-      text_may_follow_ = false;
+      next_text_ = NextText::kOwnKey;
       idle_turns_ = 0;
       Unpark();
       if (window_events_) window_events_(event);
@@ -139,7 +145,7 @@ bool EventLoop::DeliverOne() {
   // Copied out: a handler may run DoEvents and so move the queue.
   const headless::KeyItem item = keys_.front();
   keys_.pop_front();
-  if (keys_.empty()) text_may_follow_ = false;
+  if (keys_.empty() && next_text_ == NextText::kJoinsKey) next_text_ = NextText::kOwnKey;
   Unpark();
   if (!form_) return true;
   // A handler that zeroes KeyCode does not stop the KeyPress.
@@ -170,7 +176,7 @@ bool EventLoop::DeliverScriptItem() {
     return true;
   }
   keys_.push_back(item);
-  text_may_follow_ = false;
+  next_text_ = NextText::kOwnKey;
   return DeliverOne();
 }
 

@@ -116,8 +116,11 @@ class EventLoop final : public forms::EventLoop {
   std::function<bool()> present_;
   std::function<bool()> changed_;
   std::deque<headless::KeyItem> keys_;
-  // The last keystroke queued may still take the text its key types.
-  bool text_may_follow_ = false;
+  // What the next text the system types belongs to: a key of its own (the
+  // platform's packet key), the last keystroke queued, which still lacks
+  // its KeyPress, or a Ctrl or Alt chord, whose text the platform drops.
+  enum class NextText { kOwnKey, kJoinsKey, kDropped };
+  NextText next_text_ = NextText::kOwnKey;
   // The end of a script's {wait:N} under way, or -1.
   std::int64_t script_wait_until_ = -1;
   std::vector<TimerEntry> timers_;

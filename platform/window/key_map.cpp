@@ -91,6 +91,15 @@ std::optional<Integer> VirtualKeyOf(int sdl_keycode, int sdl_scancode) {
   return std::nullopt;
 }
 
+Integer KeypadKeyWithoutNumLock(Integer virtual_key) {
+  // Indexed by the keypad's numbers 96 (0) to 105 (9).
+  constexpr std::array<Integer, 10> kMoves{45, 35, 40, 34, 37, 12, 39, 36, 38, 33};
+  if (virtual_key >= 96 && virtual_key <= 105) {
+    return kMoves[static_cast<std::size_t>(virtual_key - 96)];
+  }
+  return virtual_key == 110 ? Integer{46} : virtual_key;
+}
+
 std::optional<Integer> ControlKeyPress(Integer virtual_key, Integer mask) {
   const bool ctrl = (mask & kCtrl) != 0;
   if ((mask & kAlt) != 0) return std::nullopt;

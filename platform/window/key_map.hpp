@@ -32,6 +32,12 @@ Integer ShiftMaskOf(unsigned sdl_modifiers);
 // (186-192, 219-222, 226). Nothing for a key without a virtual key here.
 std::optional<Integer> VirtualKeyOf(int sdl_keycode, int sdl_scancode);
 
+// The key a keypad key stands for with Num Lock off, as the platform gives
+// it: 7 Home, 8 Up, 9 Page Up, 4 Left, 5 Clear (12), 6 Right, 1 End,
+// 2 Down, 3 Page Down, 0 Insert, the decimal point Delete. Any other key is
+// given back as it is.
+Integer KeypadKeyWithoutNumLock(Integer virtual_key);
+
 // The KeyPress that a key gives by itself, with no text from the system:
 // Enter 13 (Ctrl+Enter 10), Backspace 8 (Ctrl+Backspace 127), Tab 9,
 // Escape 27, Ctrl+letter 1 to 26, Ctrl+[ \ ] 27 to 29, Ctrl+Space 32.

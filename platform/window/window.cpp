@@ -181,6 +181,8 @@ struct Window::Impl {
   Single shown_left = 0, shown_top = 0;
   Integer shown_state = 0;
   String shown_caption;
+  // The title the window opened with: the caption of each session's form.
+  String title;
   std::optional<Scene> scene;    // of the frame presented last
   raster::PixelRect caret_rect;  // where the caret shows in that frame
   bool expose = false;
@@ -221,6 +223,7 @@ Window::Window(const std::string& title) : impl_(std::make_unique<Impl>()) {
   }
   impl_->shown_size = {640, 480};
   impl_->shown_caption = FromUtf8(title);
+  impl_->title = impl_->shown_caption;
   SDL_StartTextInput();
   impl_->loop.SetWindowEventHandler(
       [impl = impl_.get()](const SDL_Event& e) { impl->OnWindowEvent(e); });
@@ -250,6 +253,7 @@ std::unique_ptr<headless::Session> Window::OpenSession() {
       std::make_unique<headless::Session>(raster::RasterCanvasFactory(), std::move(frontend));
   session->Global().SetPngDecoder(raster::DecodePng);
   impl_->form = session->FormRef();
+  session->Form().SetCaption(impl_->title);
   // The window stays where it opened until the form is moved.
   int x = 0, y = 0;
   SDL_GetWindowPosition(impl_->window, &x, &y);

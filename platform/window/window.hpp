@@ -56,8 +56,9 @@ bool DisplayAvailable(std::string* why = nullptr);
 
 class Window {
  public:
-  // Opens a window, shown at once. Errors: PlatformError::Host("SDL", ...)
-  // when there is no display to open it on.
+  // Opens a window, shown at once, with `title` as the caption of every
+  // session's form (Titre and the host change it later). Errors:
+  // PlatformError::Host("SDL", ...) when there is no display to open it on.
   explicit Window(const std::string& title = "Ferlan");
   ~Window();
   Window(const Window&) = delete;

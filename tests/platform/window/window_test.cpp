@@ -109,13 +109,16 @@ TEST_F(WindowTest, APersonTypesAFieldAndTheWindowShowsIt) {
   Settle(window, 100);
 
   // Typed as a person does, in the real window: an accented letter, a
-  // Ctrl+arrow back to the start of a word, and F2 to leave.
+  // Ctrl+arrow back to the start of a word, Alt+C (a chord: X still sends
+  // its letter, which must not be typed), the keypad's 7 with Num Lock off
+  // (Home), and F2 to leave.
   std::thread typist;
   TimerRef start = Once(*session, 50, [&] {
     typist = std::thread([w = std::to_string(id)] {
       const std::string keys[] = {"mousemove --window " + w + " 30 30", "windowfocus --sync " + w,
                                   "type --delay 30 'Zoé Durand'", "key --delay 30 ctrl+Left",
-                                  "type --delay 30 'M '", "key F2"};
+                                  "type --delay 30 'M '", "key --delay 30 alt+c KP_Home",
+                                  "type --delay 30 X", "key F2"};
       for (const std::string& key : keys) Xdotool(key);
     });
   });
@@ -128,7 +131,7 @@ TEST_F(WindowTest, APersonTypesAFieldAndTheWindowShowsIt) {
   ASSERT_FALSE(session->Env().Abandon) << "the keys did not reach the field within 20 s";
   EXPECT_EQ(tr, 113);
   // Typed over from the word's start, the editor's default mode.
-  EXPECT_EQ(m, u"Zoé M rand");
+  EXPECT_EQ(m, u"Xoé M rand");
 
   Settle(window);
   int width = 0, height = 0;
@@ -216,8 +219,9 @@ TEST_F(WindowTest, TheFormAndTheWindowFollowEachOther) {
   form.on_resize = [&] { ++resized; };
   const unsigned long id = window.NativeHandle();
 
-  // The display's size, the caption as the title, Width and Height as the
-  // window's size.
+  // The display's size, the window's title as the first caption and the
+  // caption as the title from then on, Width and Height as the window's size.
+  EXPECT_EQ(form.Caption(), u"Ferlan test");
   EXPECT_EQ(session->Global().Screen().Width(), 1280 * 15);
   EXPECT_EQ(session->Global().Screen().Height(), 1024 * 15);
   form.SetCaption(u"Fiche client");
