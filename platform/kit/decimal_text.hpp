@@ -1,12 +1,10 @@
 // Decimal rounding and writing of a Double, done on the shortest decimal
 // text that reads back as that Double, so that 2.675 rounds to 2.68 as a
 // person expects and not to 2.67 as its binary value would.
+// Private to the kit: neither installed nor exported.
 #pragma once
 
 #include "ferlan/runtime.hpp"
-#include "ferlan/export.hpp"
-
-FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::kit {
 
@@ -27,5 +25,3 @@ String FixedText(Double v, int decimals);
 String ShortText(Double v, int significant);
 
 }  // namespace ferlan::kit
-
-FERLAN_PUBLIC_END

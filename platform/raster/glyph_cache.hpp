@@ -2,7 +2,8 @@
 // Measuring is the hottest call of the whole system (every grid conversion
 // measures "T" or " "), so an advance of a Latin-1 character is one array
 // read; everything else is a hash lookup after the first time.
-// Private to the raster back-end: no FreeType type shows here.
+// Private to the raster back-end, neither installed nor exported; no
+// FreeType type shows here.
 #pragma once
 
 #include <array>
@@ -12,9 +13,6 @@
 #include <vector>
 
 #include "ferlan/runtime.hpp"
-#include "ferlan/export.hpp"
-
-FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::raster {
 
@@ -110,5 +108,3 @@ void ForEachCodePoint(StringView text, F&& f) {
 }
 
 }  // namespace ferlan::raster
-
-FERLAN_PUBLIC_END

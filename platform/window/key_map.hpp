@@ -2,6 +2,7 @@
 // virtual-key numbers of KeyDown, its Shift mask, and the codes of KeyPress.
 // Plain functions over SDL's numbers (given as int), so that they are tested
 // without a display.
+// Private to the window front-end: neither installed nor exported.
 #pragma once
 
 #include <optional>
@@ -9,9 +10,6 @@
 #include <vector>
 
 #include "ferlan/runtime.hpp"
-#include "ferlan/export.hpp"
-
-FERLAN_PUBLIC_BEGIN
 
 namespace ferlan::window {
 
@@ -56,5 +54,3 @@ bool TextReachesKeyPress(Integer mask);
 std::vector<Integer> KeyPressCodesOf(std::string_view utf8);
 
 }  // namespace ferlan::window
-
-FERLAN_PUBLIC_END

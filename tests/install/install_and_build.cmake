@@ -22,6 +22,12 @@ if(SOURCE_DIR)
   run(${CMAKE_COMMAND} --build ${BUILD_DIR})
 endif()
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK}/prefix)
+# A library's private headers stay with its sources.
+foreach(private kit/decimal_text.hpp raster/glyph_cache.hpp window/key_map.hpp)
+  if(EXISTS ${WORK}/prefix/include/ferlan-platform/${private})
+    message(FATAL_ERROR "a private header is installed: ${private}")
+  endif()
+endforeach()
 function(build_host source dir)
   run(${CMAKE_COMMAND} -S ${source} -B ${dir} -G Ninja
       -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_PREFIX_PATH=${WORK}/prefix
