@@ -232,6 +232,9 @@ void RasterCanvas::Clear(Long colour) {
 }
 
 void RasterCanvas::FillBox(Single x1, Single y1, Single x2, Single y2, Long colour) {
+  // Corners that share a side fill nothing: the clear of an empty text is
+  // such a box, and must not leave a column of pixels.
+  if (x1 == x2 || y1 == y2) return;
   ++changes_;
   surface_->FillCorners(x1, y1, x2, y2, WordOfColour(colour));
 }

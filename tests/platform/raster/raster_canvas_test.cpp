@@ -81,6 +81,10 @@ TEST(RasterCanvasTest, ShapesTakeWholePixelsBothCornersIncluded) {
   canvas.FillBox(5 * 15 + 14, 7 * 15, 2 * 15, 3 * 15 + 1, kBlue);
   EXPECT_EQ(CountColour(canvas, kBlue, 2, 3, 5, 7), 4 * 5);
   EXPECT_EQ(CountColour(canvas, kWhite, 0, 0, 19, 19), 400 - 4 * 5);
+  // A box with no width or no height, as an empty text clears, fills nothing.
+  canvas.FillBox(3 * 15, 3 * 15, 3 * 15, 6 * 15, kWhite);
+  canvas.FillBox(2 * 15, 4 * 15, 5 * 15, 4 * 15, kWhite);
+  EXPECT_EQ(CountColour(canvas, kBlue, 2, 3, 5, 7), 4 * 5);
   canvas.Clear(kWhite);
   canvas.Box(2 * 15, 2 * 15, 9 * 15, 6 * 15, kBlue);
   EXPECT_EQ(CountColour(canvas, kBlue, 0, 0, 19, 19), 2 * 8 + 2 * 3);  // the outline only
