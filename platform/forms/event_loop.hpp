@@ -29,6 +29,10 @@ class EventLoop {
   // (no virtual key waits to be read): only then may a loop let idle time
   // go by in one step or sleep. A loop without it keeps to its own default.
   void SetCallerIdle(std::function<bool()> caller_idle) { caller_idle_ = std::move(caller_idle); }
+  // Drops what a session lent the loop (this check, and in a front-end its
+  // key script and form): called as the session ends, since a front-end's
+  // loop may outlive it and run again.
+  virtual void ForgetSession() { caller_idle_ = nullptr; }
 
  protected:
   // The check's answer, or `unset` when no check was given.

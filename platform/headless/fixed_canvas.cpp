@@ -179,12 +179,13 @@ void FixedCanvas::Add(DrawOp op) {
 }
 
 void FixedCanvas::Added() {
+  // Indexed first: a trim compacts the list and its numbers side by side.
+  Index(ops_.back());
   // Trimmed by a quarter at a time, so that each item costs a constant share.
   if (Live() > kOpsLimit + kOpsLimit / 4 || text_units_ > kTextLimit) {
     Trim();
     return;
   }
-  Index(ops_.back());
   // The covered items wait at most as many as the visible ones (or a batch),
   // so that the list stays as long as what can be seen, give or take.
   if (gone_.size() > kGoneBatch && gone_.size() > Live()) Compact();

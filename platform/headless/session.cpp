@@ -1,6 +1,5 @@
 #include "headless/session.hpp"
 
-#include "ferlan/assert.hpp"
 #include "forms/control.hpp"
 #include "headless/key_interception.hpp"
 #include "kit/env.hpp"
@@ -18,7 +17,10 @@ Session::Session(forms::CanvasFactory canvas_factory, Frontend frontend)
       events_(frontend.loop ? frontend.loop : &loop_),
       env_(std::make_shared<kit::EnvState>()),
       records_(std::make_shared<kit::Records>()) {
-  FERLAN_ASSERT(session_of_thread == nullptr);  // one Session a thread at a time
+  // Each makes its apartment current, and they would end out of order.
+  if (session_of_thread != nullptr) {
+    throw PlatformError::InvalidCall("another Session lives on this thread");
+  }
   if (!canvas_factory_) canvas_factory_ = FixedCanvasFactory();
   const forms::Screen screen = frontend.screen.value_or(forms::Screen(kScreenWidth, kScreenHeight));
   global_ = std::make_shared<forms::Global>(*events_, screen, std::move(frontend.clipboard));
@@ -80,7 +82,7 @@ Session::Session(forms::CanvasFactory canvas_factory, Frontend frontend)
 
 Session::~Session() {
   session_of_thread = nullptr;
-  events_->SetCallerIdle(nullptr);  // a front-end's loop may outlive the session
+  events_->ForgetSession();  // a front-end's loop may outlive the session
   apartment_.reset();
   // The form's handlers call into the component, which has ended.
   form_->on_key_down = nullptr;

@@ -60,8 +60,8 @@ class Session {
   static constexpr Single kFormHeight = 9000;
   static constexpr Single kToolbarHeight = 420;
 
-  // Pre: no other Session lives on this thread (each makes its apartment
-  // current; a new one may follow when the last has gone).
+  // One Session a thread at a time (each makes its apartment current; a new
+  // one may follow when the last has gone): a second raises 5.
   // Pre: `frontend.loop`, when given, outlives the Session.
   explicit Session(forms::CanvasFactory canvas_factory = FixedCanvasFactory(),
                    Frontend frontend = {});

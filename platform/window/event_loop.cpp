@@ -134,6 +134,14 @@ void EventLoop::Handle(const SDL_Event& event) {
   }
 }
 
+void EventLoop::ForgetSession() {
+  forms::EventLoop::ForgetSession();
+  form_.reset();
+  script_ = nullptr;
+  script_wait_until_ = -1;
+  write_abandon_ = nullptr;
+}
+
 void EventLoop::Close() {
   closed_ = true;
   keys_.clear();

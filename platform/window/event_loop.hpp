@@ -57,10 +57,12 @@ class EventLoop final : public forms::EventLoop {
   // The form whose handlers get the keys; without one keys are dropped.
   void SetForm(std::shared_ptr<forms::Form> form) { form_ = std::move(form); }
   // Keys queued by a script, delivered after the keyboard's; may be null.
-  // Pre: the script outlives its use here (set null before it goes).
+  // Pre: the script outlives its use here (set null before it goes, as
+  // ForgetSession does).
   void SetScript(headless::KeyScript* script) { script_ = script; }
   // How Env.Abandon is written: when the window closes, and for {abandon}.
   void SetAbandonWriter(std::function<void(Boolean)> write) { write_abandon_ = std::move(write); }
+  void ForgetSession() override;
   // Window events other than keys and closing (resize, expose, state).
   void SetWindowEventHandler(std::function<void(const SDL_Event&)> handle) {
     window_events_ = std::move(handle);

@@ -54,6 +54,14 @@ TEST(FixedCanvasTest, KeepsWhatWasDrawnSinceTheLastClearLessWhatAFillCovers) {
   for (const DrawOp& op : canvas.Ops()) units += op.text.size();
   EXPECT_LE(units, FixedCanvas::kTextLimit);
   EXPECT_EQ(canvas.Ops().size() + canvas.Dropped(), 10u);
+  // A cut while a covered item still waits to leave: the item that made the
+  // cut is numbered before the list and its numbers are compacted together.
+  canvas.Clear(0);
+  canvas.Text(0, 0, u"covered", forms::FontSpec{10, false}, 0);
+  canvas.FillBox(0, 0, 1000, 1000, 1);
+  canvas.Text(0, 2000, String(FixedCanvas::kTextLimit + 1, u'x'), forms::FontSpec{10, false}, 0);
+  ASSERT_EQ(canvas.Ops().size(), 1u);
+  EXPECT_EQ(canvas.Ops()[0].text.size(), FixedCanvas::kTextLimit + 1);
 }
 
 TEST(FixedCanvasTest, AFillOnALongRowCoversOnlyWhatLiesInsideIt) {

@@ -274,6 +274,11 @@ TEST_F(WindowTest, TheFormAndTheWindowFollowEachOther) {
   char* text = SDL_GetClipboardText();
   EXPECT_STREQ(text, "Prix 10 \xE2\x82\xAC");
   SDL_free(text);
+
+  // The window outlives its session: its loop runs on with nothing of it.
+  session->Keys().Append("abc");
+  session.reset();
+  window.Loop().DoEvents();
 }
 
 // `ferlan run`: a session played in a window, keys queued for a demo, the
