@@ -4,6 +4,7 @@
 #include <atomic>
 
 #include "forms/control.hpp"
+#include "forms/placed.hpp"
 #include "forms/property_table.hpp"
 
 namespace ferlan::forms {
@@ -53,7 +54,7 @@ Single Form::Width() const { return window_state_ == 2 ? maximised_width_ : widt
 Single Form::Height() const { return window_state_ == 2 ? maximised_height_ : height_; }
 
 void Form::SetWidth(Single v) {
-  if (v < 0) throw PlatformError::InvalidCall("negative Width");
+  CheckedSize(v, "Width");
   const Single old_width = Width();
   const Single old_height = Height();
   width_ = v;
@@ -61,7 +62,7 @@ void Form::SetWidth(Single v) {
 }
 
 void Form::SetHeight(Single v) {
-  if (v < 0) throw PlatformError::InvalidCall("negative Height");
+  CheckedSize(v, "Height");
   const Single old_width = Width();
   const Single old_height = Height();
   height_ = v;

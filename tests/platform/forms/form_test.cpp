@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <memory>
 #include <utility>
 
@@ -44,6 +45,10 @@ TEST_F(FormTest, InnerSizeResizingAndWindowStates) {
   EXPECT_FLOAT_EQ(form.Width(), 11000);
   EXPECT_EQ(resizes, 3);
   ExpectPlatformError([&] { form.SetHeight(-5); }, 5);
+  ExpectPlatformError([&] { form.SetWidth(std::numeric_limits<Single>::quiet_NaN()); }, 5);
+  ExpectPlatformError([&] { form.SetHeight(std::numeric_limits<Single>::infinity()); }, 5,
+                      "Invalid procedure call or argument: Height not finite");
+  EXPECT_FLOAT_EQ(form.Width(), 11000);
   ExpectPlatformError([&] { form.SetWindowState(3); }, 5);
 }
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <utility>
 
 #include "headless/fixed_canvas.hpp"
@@ -55,6 +56,7 @@ TEST_F(PictureBoxTest, PropertiesByName) {
   ExpectPlatformError([&] { box.SetProperty("Picture", Variant(font)); }, 13);  // no picture
   ExpectPlatformError([&] { box.SetProperty("Width", Variant(String(u"wide"))); }, 13);
   ExpectPlatformError([&] { box.SetWidth(-1); }, 5);
+  ExpectPlatformError([&] { box.SetHeight(std::numeric_limits<Single>::quiet_NaN()); }, 5);
   ExpectPlatformError([&] { box.SetBorderStyle(2); }, 5);
   // A border wider than the box leaves nothing inside, and the canvas follows.
   box.SetWidth(40);
