@@ -52,6 +52,12 @@ void Timer::Fire(std::int64_t now) {
   in_tick_ = false;
 }
 
+void Timer::Orphan() {
+  now_ = [] { return std::int64_t{0}; };
+  on_tick_ = nullptr;
+  started_at_ = 0;
+}
+
 Variant Timer::GetProperty(std::string_view name) { return Properties().Get(*this, name); }
 
 void Timer::SetProperty(std::string_view name, const Variant& value) {

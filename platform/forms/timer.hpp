@@ -37,6 +37,9 @@ class Timer final : public ferlan::Timer {
   // Runs the tick and counts the next interval from `now`. A tick that calls
   // DoEvents doesn't see its own timer fire again meanwhile.
   void Fire(std::int64_t now);
+  // Its loop has gone while the host still holds it: it keeps its
+  // properties, but reads that loop's clock no more and never ticks again.
+  void Orphan();
 
   Variant GetProperty(std::string_view name) override;
   void SetProperty(std::string_view name, const Variant& value) override;

@@ -97,6 +97,12 @@ bool EventLoop::DeliverOne(std::int64_t ms, bool& acted) {
   return true;
 }
 
+EventLoop::~EventLoop() {
+  for (const Made& made : timers_) {
+    if (const auto timer = made.owner.lock()) timer->Orphan();
+  }
+}
+
 TimerRef EventLoop::CreateTimer(std::function<void()> on_tick) {
   auto timer = std::make_shared<forms::Timer>(std::move(on_tick),
                                               [&clock = clock_] { return clock.Now(); });

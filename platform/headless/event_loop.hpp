@@ -45,6 +45,10 @@ class EventLoop final : public forms::EventLoop {
 
   // Pre: `clock` and `script` outlive the loop.
   EventLoop(VirtualClock& clock, KeyScript& script);
+  // The timers a host still holds are orphaned: their clock goes with the loop.
+  ~EventLoop() override;
+  EventLoop(const EventLoop&) = delete;
+  EventLoop& operator=(const EventLoop&) = delete;
 
   // The form whose handlers get the keys; without one keys are dropped.
   void SetForm(std::shared_ptr<forms::Form> form) { form_ = std::move(form); }

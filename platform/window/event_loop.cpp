@@ -23,6 +23,12 @@ headless::KeyItem Keystroke(Integer vk, Integer mask) {
 
 EventLoop::EventLoop() : start_(std::chrono::steady_clock::now()) {}
 
+EventLoop::~EventLoop() {
+  for (const TimerEntry& entry : timers_) {
+    if (const auto timer = entry.timer.lock()) timer->Orphan();
+  }
+}
+
 std::int64_t EventLoop::Now() const {
   return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() -
                                                                start_)

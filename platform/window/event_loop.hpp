@@ -53,6 +53,10 @@ class EventLoop final : public forms::EventLoop {
 
   // Pre: SDL's video is initialised for the loop's lifetime.
   EventLoop();
+  // The timers a host still holds are orphaned: their clock goes with the loop.
+  ~EventLoop() override;
+  EventLoop(const EventLoop&) = delete;
+  EventLoop& operator=(const EventLoop&) = delete;
 
   // The form whose handlers get the keys; without one keys are dropped.
   void SetForm(std::shared_ptr<forms::Form> form) { form_ = std::move(form); }

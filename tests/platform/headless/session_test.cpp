@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "forms/control.hpp"
 #include "headless/fixed_canvas.hpp"
 #include "support/session_test.hpp"
@@ -66,6 +68,21 @@ TEST(SessionLifetimeTest, ANewSessionFollowsTheLastAndMayBeReenteredOnResize) {
     session.Form().SetProperty("Height", Variant(Single{9500}));
     EXPECT_EQ(resizes, 2);
   }
+}
+
+TEST(SessionLifetimeTest, ATimerTheHostKeepsStopsWithItsSession) {
+  TimerRef timer;
+  int ticks = 0;
+  {
+    headless::Session session;
+    timer = session.Global().CreateTimer([&ticks] { ++ticks; });
+    timer->SetInterval(1);
+    timer->SetEnabled(true);
+  }
+  // The session's clock has gone: the timer reads it no more.
+  timer->SetEnabled(false);
+  timer->SetInterval(5);
+  EXPECT_EQ(std::pair(timer->Interval(), ticks), std::pair(Long{5}, 0));
 }
 
 TEST(SessionLifetimeTest, ASecondSessionOnTheSameThreadIsRefused) {
