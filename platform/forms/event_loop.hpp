@@ -5,6 +5,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 #include "ferlan/host.hpp"
@@ -33,6 +34,9 @@ class EventLoop {
   // key script and form): called as the session ends, since a front-end's
   // loop may outlive it and run again.
   virtual void ForgetSession() { caller_idle_ = nullptr; }
+  // Expires when the loop ends: a session that outlives its front-end's loop
+  // (a window destroyed first) then leaves it alone.
+  std::weak_ptr<const void> Alive() const { return alive_; }
 
  protected:
   // The check's answer, or `unset` when no check was given.
@@ -40,6 +44,7 @@ class EventLoop {
 
  private:
   std::function<bool()> caller_idle_;
+  std::shared_ptr<const void> alive_ = std::make_shared<int>(0);
 };
 
 }  // namespace ferlan::forms

@@ -15,6 +15,7 @@ Session::Session(forms::CanvasFactory canvas_factory, Frontend frontend)
     : canvas_factory_(std::move(canvas_factory)),
       loop_(clock_, keys_),
       events_(frontend.loop ? frontend.loop : &loop_),
+      events_alive_(events_->Alive()),
       env_(std::make_shared<kit::EnvState>()),
       records_(std::make_shared<kit::Records>()) {
   // Each makes its apartment current, and they would end out of order.
@@ -82,7 +83,9 @@ Session::Session(forms::CanvasFactory canvas_factory, Frontend frontend)
 
 Session::~Session() {
   session_of_thread = nullptr;
-  events_->ForgetSession();  // a front-end's loop may outlive the session
+  // A front-end's loop may outlive the session, or, wrongly but easily done,
+  // end before it.
+  if (!events_alive_.expired()) events_->ForgetSession();
   apartment_.reset();
   // The form's handlers call into the component, which has ended.
   form_->on_key_down = nullptr;

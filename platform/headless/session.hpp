@@ -109,6 +109,7 @@ class Session {
   EventLoop loop_;
   // The loop DoEvents runs: loop_, or the front-end's.
   forms::EventLoop* events_;
+  std::weak_ptr<const void> events_alive_;
   std::shared_ptr<kit::EnvState> env_;
   std::shared_ptr<kit::Records> records_;
   std::shared_ptr<forms::Global> global_;

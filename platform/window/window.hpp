@@ -67,8 +67,8 @@ class Window {
   // A host session whose form this window shows from now on, with the
   // window's event loop, screen, clipboard and canvases: keys typed in the
   // window go to its form, and its key script ({"keys": ...}) follows them.
-  // Pre: the session goes before the window, and before OpenSession is
-  // called again only if nothing runs DoEvents in between.
+  // Pre: the session is used only while the window lives (a session that
+  // merely ends after it does no harm, and the window runs on after it).
   std::unique_ptr<headless::Session> OpenSession();
 
   EventLoop& Loop();

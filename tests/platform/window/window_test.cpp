@@ -281,6 +281,20 @@ TEST_F(WindowTest, TheFormAndTheWindowFollowEachOther) {
   window.Loop().DoEvents();
 }
 
+// Declared before its window, a session ends after it: it must leave the
+// window's loop and timers alone (the sanitizers see any touch), and the
+// thread may open another.
+TEST_F(WindowTest, ASessionMayEndAfterItsWindow) {
+  std::unique_ptr<headless::Session> session;
+  {
+    window::Window window("Ferlan test");
+    session = Open(window);
+  }
+  session.reset();
+  window::Window window("Ferlan test");
+  EXPECT_NO_THROW(session = Open(window));
+}
+
 // `ferlan run`: a session played in a window, keys queued for a demo, the
 // answers on standard output, and closing the window ends it.
 TEST_F(WindowTest, RunPlaysASessionInAWindow) {
