@@ -71,7 +71,7 @@ Session::Session(forms::CanvasFactory canvas_factory, Frontend frontend)
   loop_.SetAbandonWriter([env = env_](Boolean v) { env->Abandon = v; });
 
   ClassRegistry registry;
-  kit::RegisterKit(registry, env_, records_);
+  kit::RegisterKit(registry, env_, records_, global_);
   recorder_ = std::make_shared<RecordingDessin>(
       std::dynamic_pointer_cast<ferlan::Dessin>(registry.Create("Dessin")));
   registry.Register("Dessin", [recorder = recorder_] { return recorder; });

@@ -6,7 +6,8 @@
 
 namespace ferlan::kit {
 
-Dessin::Dessin(std::shared_ptr<EnvState> env) : env_(std::make_unique<kit::Env>(std::move(env))) {}
+Dessin::Dessin(std::shared_ptr<EnvState> env, std::shared_ptr<Global> global)
+    : env_(std::make_unique<kit::Env>(std::move(env))), global_(std::move(global)) {}
 
 Single Dessin::TaillePolice(PictureBox& /*Zone*/) { return kTaillePolice; }
 
@@ -72,6 +73,13 @@ void Dessin::Reduit(PictureBox& Zone) {
 }
 
 void Dessin::Recadre(Form& F) {
+  // A form grown past the screen's right or bottom edge moves back so that
+  // it ends there; one larger than the screen keeps its top left corner on it.
+  if (global_) {
+    const Screen& screen = global_->Screen();
+    if (F.Left() + F.Width() > screen.Width()) F.SetLeft(screen.Width() - F.Width());
+    if (F.Top() + F.Height() > screen.Height()) F.SetTop(screen.Height() - F.Height());
+  }
   if (F.Left() < 0) F.SetLeft(0);
   if (F.Top() < 0) F.SetTop(0);
 }

@@ -20,8 +20,9 @@ class Dessin : public ferlan::Dessin {
   // Room between the left or right edge of a Cadre3D box and its text.
   static constexpr Single kCadreInset = 30;
 
-  // Dessin reads and writes the environment through an Env of its own.
-  explicit Dessin(std::shared_ptr<EnvState> env);
+  // Dessin reads and writes the environment through an Env of its own;
+  // `global`, when given, tells Recadre the size of the screen.
+  explicit Dessin(std::shared_ptr<EnvState> env, std::shared_ptr<Global> global = nullptr);
 
   Single TaillePolice(PictureBox& Zone) override;
   void Texte(PictureBox& Zone, Single X, Single Y, const String& Mes, Long Coul) override;
@@ -44,6 +45,7 @@ class Dessin : public ferlan::Dessin {
 
  private:
   std::unique_ptr<ferlan::Env> env_;
+  std::shared_ptr<Global> global_;
   // Saved pictures, last on top: one stack whichever surface saved them,
   // so that it keeps step with the component's Pile.
   std::vector<PictureRef> saved_;

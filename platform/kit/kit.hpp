@@ -91,9 +91,10 @@ struct Records {
 // "Aide", "Entete", "Calcul", "Dates" and "Fenetres". The host registers
 // "Global" itself, and may register its own "Dessin" afterwards (a later
 // registration replaces the earlier), for instance one that records and then
-// calls kit::Dessin.
+// calls kit::Dessin. The Dessin keeps the form on `global`'s screen when
+// given, and only off negative positions without it.
 void RegisterKit(ClassRegistry& registry, std::shared_ptr<EnvState> env,
-                 std::shared_ptr<Records> records);
+                 std::shared_ptr<Records> records, std::shared_ptr<Global> global = nullptr);
 
 }  // namespace ferlan::kit
 

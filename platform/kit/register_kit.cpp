@@ -20,12 +20,12 @@
 namespace ferlan::kit {
 
 void RegisterKit(ClassRegistry& registry, std::shared_ptr<EnvState> env,
-                 std::shared_ptr<Records> records) {
+                 std::shared_ptr<Records> records, std::shared_ptr<Global> global) {
   registry.Register("Env", [env] { return std::make_shared<Env>(env); });
   registry.Register("Chaines", [] { return std::make_shared<Chaines>(); });
   registry.Register("Conv", [] { return std::make_shared<Conv>(); });
   registry.Register("Erreur", [records] { return std::make_shared<Erreur>(records); });
-  registry.Register("Dessin", [env] { return std::make_shared<Dessin>(env); });
+  registry.Register("Dessin", [env, global] { return std::make_shared<Dessin>(env, global); });
   registry.Register("Pile", [] { return std::make_shared<Pile>(); });
   registry.Register("Boite", [records] { return std::make_shared<Boite>(records); });
   registry.Register("Aide", [records] { return std::make_shared<Aide>(records); });

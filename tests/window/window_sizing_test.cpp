@@ -6,6 +6,7 @@
 
 #include <memory>
 #include <sstream>
+#include <utility>
 
 #include "ferlan/kysaisie.hpp"
 #include "forms/form.hpp"
@@ -81,6 +82,16 @@ TEST_F(WindowTest, ASurfaceLargerThanTheFormGrowsTheFormUnlessMaximised) {
   ky.DimensionFeuille(30, 120);
   EXPECT_EQ(TakeLog(), "Hauteur 9360 False\nLargeur 13020 False\nRecadre\n");
   EXPECT_EQ(Layout(), "13020x9360 at 0,435 in 13200x10320");
+
+  // Grown past the screen's right and bottom edges, the form moves back to
+  // end on them; larger than the screen, it keeps its top left corner on it.
+  Form().SetLeft(20000);
+  Form().SetTop(9000);
+  ky.DimensionFeuille(32, 120);
+  EXPECT_EQ(std::pair(Form().Left(), Form().Top()), std::pair(28800.0F - 13200, 16200.0F - 10944));
+  ky.DimensionFeuille(60, 300);
+  EXPECT_EQ(std::pair(Form().Left(), Form().Top()), std::pair(0.0F, 0.0F));
+  TakeLog();
 
   // Maximised, the form keeps the screen's 28800 x 16200, and the surface, larger than the room,
   // goes to (28680 - 31980) / 2, 420 + (15750 - 420 - 18780) / 2.
