@@ -462,6 +462,8 @@ void Window::Impl::Compose(forms::Form& f, PictureBox* surface,
     frame.assign(static_cast<std::size_t>(std::max(frame_size.width, 0)) *
                      static_cast<std::size_t>(std::max(frame_size.height, 0)),
                  0);
+    // A window made small again gives back the room of its largest frame.
+    if (frame.capacity() / 2 > frame.size()) frame.shrink_to_fit();
   }
   raster::ComposeFormOnto(f, surface, reinterpret_cast<unsigned char*>(frame.data()), frame_size,
                           frame_size.width * 4, damage);
