@@ -135,6 +135,9 @@ void EventLoop::Handle(const SDL_Event& event) {
       Unpark();
       if (window_events_) window_events_(event);
       return;
+    case SDL_SYSWMEVENT:
+      if (window_events_) window_events_(event);
+      return;
     default:
       return;
   }

@@ -67,7 +67,8 @@ class EventLoop final : public forms::EventLoop {
   // How Env.Abandon is written: when the window closes, and for {abandon}.
   void SetAbandonWriter(std::function<void(Boolean)> write) { write_abandon_ = std::move(write); }
   void ForgetSession() override;
-  // Window events other than keys and closing (resize, expose, state).
+  // Window events other than keys and closing (resize, expose, state), and
+  // the windowing system's own events (SDL_SYSWMEVENT) when enabled.
   void SetWindowEventHandler(std::function<void(const SDL_Event&)> handle) {
     window_events_ = std::move(handle);
   }
@@ -84,6 +85,9 @@ class EventLoop final : public forms::EventLoop {
 
   // The window was closed: Env.Abandon is True from then on.
   bool Closed() const { return closed_; }
+  // The window is closed, or gone: the wait under way ends, and every later
+  // one at once.
+  void Close();
   // Milliseconds on the monotonic clock since the loop began.
   std::int64_t Now() const;
   // Times DoEvents slept, for the benchmark's count of wake-ups.
@@ -102,7 +106,6 @@ class EventLoop final : public forms::EventLoop {
 
   void Pump();
   void Handle(const SDL_Event& event);
-  void Close();
   // Delivers one keystroke; gives false when none is waiting.
   bool DeliverOne();
   bool DeliverScriptItem();

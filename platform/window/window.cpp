@@ -2,6 +2,9 @@
 
 #include <SDL.h>
 #include <SDL_syswm.h>
+#if FERLAN_WINDOW_XLIB && defined(SDL_VIDEO_DRIVER_X11)
+#include <X11/Xatom.h>
+#endif
 
 #include <atomic>
 #include <cstdio>
@@ -29,6 +32,15 @@ constexpr Single kTwips = raster::kTwipsPerPixel;
 constexpr Uint32 kButtonFace = 0x00F0F0F0;  // what shows beyond a smaller frame
 // The rectangles a frame redraws at most; more are joined.
 constexpr std::size_t kMostRects = 6;
+// The largest side of the window and of its frame, in pixels: beyond any
+// screen's, far below X's 32767, and a frame of 256 MB at most. A larger
+// form shows its top left part.
+constexpr int kLargestSide = 8192;
+
+raster::PixelSize ShownSize(forms::Form& f) {
+  const raster::PixelSize size = raster::FormPixelSize(f);
+  return {std::min(size.width, kLargestSide), std::min(size.height, kLargestSide)};
+}
 
 // What a control shows of itself; a frame is due when it changes.
 struct Look {
@@ -137,6 +149,44 @@ int ReportXError(Display* display, XErrorEvent* error) {
   }
   return 0;
 }
+
+// SDL writes the title through Xlib's locale conversions, which in the C
+// locale this process keeps turn WM_NAME's accents into pairs of Latin-1
+// characters and leave _NET_WM_NAME as it was for a dash "—". Both are
+// written again here: _NET_WM_NAME in UTF-8, WM_NAME in Latin-1 ("?" for
+// what it lacks), as window managers read them.
+void WriteX11Title(SDL_Window* window, const String& caption) {
+  SDL_SysWMinfo info;
+  SDL_VERSION(&info.version);
+  if (SDL_GetWindowWMInfo(window, &info) != SDL_TRUE || info.subsystem != SDL_SYSWM_X11) return;
+  Display* display = info.info.x11.display;
+  const ::Window id = info.info.x11.window;
+  const std::string utf8 = ToUtf8(caption);
+  std::string latin1;
+  for (const char16_t c : caption) latin1 += c < 0x100 ? static_cast<char>(c) : '?';
+  const auto put = [&](Atom property, Atom type, const std::string& bytes) {
+    XChangeProperty(display, id, property, type, 8, PropModeReplace,
+                    reinterpret_cast<const unsigned char*>(bytes.data()),
+                    static_cast<int>(bytes.size()));
+  };
+  put(XInternAtom(display, "_NET_WM_NAME", False), XInternAtom(display, "UTF8_STRING", False),
+      utf8);
+  put(XA_WM_NAME, XA_STRING, latin1);
+  XFlush(display);
+}
+
+// Whether `event` tells that another client destroyed `window`: a person
+// then has nothing left to type into nor to close.
+bool DestroyedByX11(SDL_Window* window, const SDL_Event& event) {
+  const SDL_SysWMmsg* msg = event.syswm.msg;
+  if (msg == nullptr || msg->subsystem != SDL_SYSWM_X11) return false;
+  const XEvent& x = msg->msg.x11.event;
+  if (x.type != DestroyNotify) return false;
+  SDL_SysWMinfo info;
+  SDL_VERSION(&info.version);
+  return SDL_GetWindowWMInfo(window, &info) == SDL_TRUE && info.subsystem == SDL_SYSWM_X11 &&
+         x.xdestroywindow.window == info.info.x11.window;
+}
 #endif
 
 // Starts SDL's video on a windowing system; gives why not when it can't.
@@ -225,6 +275,11 @@ Window::Window(const std::string& title) : impl_(std::make_unique<Impl>()) {
   impl_->shown_caption = FromUtf8(title);
   impl_->title = impl_->shown_caption;
   SDL_StartTextInput();
+#if FERLAN_WINDOW_XLIB && defined(SDL_VIDEO_DRIVER_X11)
+  // For the window destroyed by another client; and the first title.
+  SDL_EventState(SDL_SYSWMEVENT, SDL_ENABLE);
+  WriteX11Title(impl_->window, impl_->title);
+#endif
   impl_->loop.SetWindowEventHandler(
       [impl = impl_.get()](const SDL_Event& e) { impl->OnWindowEvent(e); });
   impl_->loop.SetFrameHook([this] { return Present(); });
@@ -384,6 +439,9 @@ void Window::Impl::Sync(forms::Form& f) {
   if (f.Caption() != shown_caption) {
     shown_caption = f.Caption();
     SDL_SetWindowTitle(window, ToUtf8(shown_caption).c_str());
+#if FERLAN_WINDOW_XLIB && defined(SDL_VIDEO_DRIVER_X11)
+    WriteX11Title(window, shown_caption);
+#endif
   }
   if (f.WindowState() != shown_state) {
     shown_state = f.WindowState();
@@ -401,7 +459,7 @@ void Window::Impl::Sync(forms::Form& f) {
     SDL_SetWindowPosition(window, raster::PixelOfTwips(shown_left),
                           raster::PixelOfTwips(shown_top));
   }
-  const raster::PixelSize wanted = raster::FormPixelSize(f);
+  const raster::PixelSize wanted = ShownSize(f);
   if (shown_state == 0 && wanted != shown_size && wanted.width > 0 && wanted.height > 0) {
     shown_size = wanted;
     SDL_SetWindowSize(window, wanted.width, wanted.height);
@@ -409,6 +467,12 @@ void Window::Impl::Sync(forms::Form& f) {
 }
 
 void Window::Impl::OnWindowEvent(const SDL_Event& event) {
+  if (event.type == SDL_SYSWMEVENT) {
+#if FERLAN_WINDOW_XLIB && defined(SDL_VIDEO_DRIVER_X11)
+    if (DestroyedByX11(window, event)) loop.Close();
+#endif
+    return;
+  }
   const std::shared_ptr<forms::Form> f = form.lock();
   switch (event.window.event) {
     case SDL_WINDOWEVENT_EXPOSED:
@@ -458,7 +522,7 @@ void Window::Impl::OnWindowEvent(const SDL_Event& event) {
 void Window::Impl::Compose(forms::Form& f, PictureBox* surface,
                            const std::vector<raster::PixelRect>* damage) {
   if (damage == nullptr) {
-    frame_size = raster::FormPixelSize(f);
+    frame_size = ShownSize(f);
     frame.assign(static_cast<std::size_t>(std::max(frame_size.width, 0)) *
                      static_cast<std::size_t>(std::max(frame_size.height, 0)),
                  0);

@@ -233,6 +233,22 @@ TEST_F(WindowTest, TheFormAndTheWindowFollowEachOther) {
   ASSERT_NE(name, nullptr);
   EXPECT_STREQ(name, "Fiche client");
   XFree(name);
+  // Out of ASCII: the UTF-8 title in full, the Latin-1 one as far as it goes.
+  form.SetCaption(u"Échéance — 2026");
+  Settle(window, 100);
+  const auto property = [&](const char* atom) {
+    Atom type = 0;
+    int format = 0;
+    unsigned long count = 0, after = 0;
+    unsigned char* bytes = nullptr;
+    XGetWindowProperty(display_, id, XInternAtom(display_, atom, False), 0, 1024, False,
+                       AnyPropertyType, &type, &format, &count, &after, &bytes);
+    std::string value(reinterpret_cast<char*>(bytes), count);
+    XFree(bytes);
+    return value;
+  };
+  EXPECT_EQ(property("_NET_WM_NAME"), reinterpret_cast<const char*>(u8"Échéance — 2026"));
+  EXPECT_EQ(property("WM_NAME"), "\xC9" "ch\xE9" "ance ? 2026");
   XWindowAttributes attributes;
   XGetWindowAttributes(display_, id, &attributes);
   EXPECT_EQ(std::pair(attributes.width, attributes.height),
@@ -279,6 +295,35 @@ TEST_F(WindowTest, TheFormAndTheWindowFollowEachOther) {
   session->Keys().Append("abc");
   session.reset();
   window.Loop().DoEvents();
+}
+
+// Another client may destroy the window outright (no close box is then
+// left to click): as after a close, the wait ends and every later one at once.
+// And a form far larger than any screen shows its top left part, in a window
+// and frame of bounded size.
+TEST_F(WindowTest, AWindowDestroyedOrTooLargeLeavesNoSessionStuck) {
+  window::Window window("Ferlan test");
+  auto session = Open(window);
+  forms::Form& form = session->Form();
+  form.SetWidth(2e9F);
+  form.SetHeight(2e9F);
+  Settle(window, 100);
+  XWindowAttributes attributes;
+  XGetWindowAttributes(display_, window.NativeHandle(), &attributes);
+  EXPECT_EQ(std::pair(attributes.width, attributes.height), std::pair(8192, 8192));
+
+  KySaisie k;
+  TimerRef destroy = Once(*session, 50, [&] {
+    XDestroyWindow(display_, window.NativeHandle());
+    XFlush(display_);
+  });
+  TimerRef guard = Once(*session, 20000, [&] { session->Env().Abandon = true; });
+  String m = u"abc";
+  Integer tr = -1;
+  k.ModD(m, u"A", 3, 12, k.WinCol(12), 30, tr);
+  EXPECT_TRUE(window.Closed());
+  k.ModD(m, u"A", 4, 12, k.WinCol(12), 30, tr);
+  EXPECT_TRUE(session->Env().Abandon);
 }
 
 // Declared before its window, a session ends after it: it must leave the
