@@ -198,6 +198,14 @@ std::optional<std::string> StartVideo() {
   if ((x11 == nullptr || *x11 == 0) && (wayland == nullptr || *wayland == 0)) {
     return std::string("neither DISPLAY nor WAYLAND_DISPLAY is set");
   }
+  // Only the windowing system whose address is given: SDL would otherwise try
+  // the others, whose libraries print errors of their own. A default only: a
+  // host's hint or SDL_VIDEODRIVER still rules.
+  if (wayland == nullptr || *wayland == 0) {
+    SDL_SetHintWithPriority(SDL_HINT_VIDEODRIVER, "x11", SDL_HINT_DEFAULT);
+  } else if (x11 == nullptr || *x11 == 0) {
+    SDL_SetHintWithPriority(SDL_HINT_VIDEODRIVER, "wayland", SDL_HINT_DEFAULT);
+  }
 #if FERLAN_WINDOW_XLIB && defined(SDL_VIDEO_DRIVER_X11)
   // Before SDL starts, so that SDL's handler falls back on this one.
   XSetErrorHandler(&ReportXError);

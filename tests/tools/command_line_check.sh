@@ -21,6 +21,10 @@ for wrong in "" bogus "methods extra" "automate --bogus" "--help extra"; do
   [ "$status" -eq 2 ] || fail "ferlan $wrong exits $status, not 2"
   [ -z "$out" ] || fail "ferlan $wrong writes on standard output"
 done
+# An X server that is not there: one line, and status 2.
+err=$(DISPLAY=:1234567 WAYLAND_DISPLAY= "$ferlan" run /dev/null 2>&1 >/dev/null); status=$?
+[ "$status" -eq 2 ] && [ "$(wc -l <<<"$err")" -eq 1 ] && grep -q "no display" <<<"$err" ||
+  fail "ferlan run without its X server exits $status: $err"
 # A directory is no file to play, display or not.
 err=$("$ferlan" run / 2>&1 >/dev/null); status=$?
 [ "$status" -eq 2 ] && grep -q "cannot read" <<<"$err" || fail "ferlan run / exits $status: $err"
