@@ -23,7 +23,8 @@ if(SOURCE_DIR)
 endif()
 run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${WORK}/prefix)
 # A library's private headers stay with its sources.
-foreach(private kit/decimal_text.hpp raster/glyph_cache.hpp window/key_map.hpp)
+foreach(private kit/decimal_text.hpp raster/glyph_cache.hpp window/key_map.hpp
+    window/x11_selection.hpp)
   if(EXISTS ${WORK}/prefix/include/ferlan-platform/${private})
     message(FATAL_ERROR "a private header is installed: ${private}")
   endif()

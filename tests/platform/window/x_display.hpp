@@ -7,13 +7,18 @@
 #include <X11/Xutil.h>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <atomic>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
+#include <thread>
+#include <utility>
 #include <vector>
 
 namespace ferlan::testing {
@@ -104,6 +109,89 @@ class XvfbTest : public ::testing::Test {
   pid_t xvfb_ = 0;
   std::string display_name_;
   Display* display_ = nullptr;
+};
+
+// Another program holding CLIPBOARD with `text` in UTF-8, which it sends in
+// increments of 4,000 bytes (INCR), as toolkits send large texts; it answers
+// from a thread and a connection of its own until it goes.
+class IncrementalOwner {
+ public:
+  IncrementalOwner(const std::string& display_name, std::string text)
+      : display_(XOpenDisplay(display_name.c_str())), text_(std::move(text)) {
+    window_ = XCreateSimpleWindow(display_, DefaultRootWindow(display_), 0, 0, 1, 1, 0, 0, 0);
+    XSetSelectionOwner(display_, Atom("CLIPBOARD"), window_, CurrentTime);
+    XSync(display_, False);
+    thread_ = std::thread([this] { Serve(); });
+  }
+  ~IncrementalOwner() {
+    stop_ = true;
+    thread_.join();
+    XCloseDisplay(display_);
+  }
+  IncrementalOwner(const IncrementalOwner&) = delete;
+  IncrementalOwner& operator=(const IncrementalOwner&) = delete;
+
+ private:
+  struct Transfer {
+    ::Window requestor;
+    ::Atom property;
+    std::size_t sent;
+  };
+
+  ::Atom Atom(const char* name) { return XInternAtom(display_, name, False); }
+
+  void Serve() {
+    std::vector<Transfer> transfers;
+    while (!stop_) {
+      while (XPending(display_) > 0) {
+        XEvent event;
+        XNextEvent(display_, &event);
+        if (event.type == SelectionRequest) {
+          const XSelectionRequestEvent& request = event.xselectionrequest;
+          XEvent reply{};
+          reply.xselection.type = SelectionNotify;
+          reply.xselection.requestor = request.requestor;
+          reply.xselection.selection = request.selection;
+          reply.xselection.target = request.target;
+          reply.xselection.time = request.time;
+          reply.xselection.property = None;
+          if (request.target == Atom("UTF8_STRING")) {
+            // The size, then a piece each time the requestor deletes the property.
+            XSelectInput(display_, request.requestor, PropertyChangeMask);
+            const long size = static_cast<long>(text_.size());
+            XChangeProperty(display_, request.requestor, request.property, Atom("INCR"), 32,
+                            PropModeReplace, reinterpret_cast<const unsigned char*>(&size), 1);
+            transfers.push_back({request.requestor, request.property, 0});
+            reply.xselection.property = request.property;
+          }
+          XSendEvent(display_, request.requestor, False, NoEventMask, &reply);
+        } else if (event.type == PropertyNotify && event.xproperty.state == PropertyDelete) {
+          for (Transfer& t : transfers) {
+            if (t.requestor != event.xproperty.window || t.property != event.xproperty.atom ||
+                t.sent > text_.size()) {
+              continue;
+            }
+            const std::size_t piece = std::min<std::size_t>(4000, text_.size() - t.sent);
+            XChangeProperty(display_, t.requestor, t.property, Atom("UTF8_STRING"), 8,
+                            PropModeReplace,
+                            reinterpret_cast<const unsigned char*>(text_.data() + t.sent),
+                            static_cast<int>(piece));
+            // The empty piece ends the transfer.
+            t.sent += piece == 0 ? 1 : piece;
+          }
+        }
+        XFlush(display_);
+      }
+      pollfd connection{ConnectionNumber(display_), POLLIN, 0};
+      poll(&connection, 1, 10);
+    }
+  }
+
+  Display* display_;
+  ::Window window_ = None;
+  std::string text_;
+  std::atomic<bool> stop_{false};
+  std::thread thread_;
 };
 
 }  // namespace ferlan::testing
