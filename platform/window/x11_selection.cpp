@@ -10,6 +10,8 @@
 
 namespace ferlan::window {
 
+using Clock = std::chrono::steady_clock;
+
 X11SelectionReader::~X11SelectionReader() {
   if (display_ != nullptr) XCloseDisplay(display_);
 }
@@ -34,7 +36,6 @@ bool X11SelectionReader::Open() {
 }
 
 bool X11SelectionReader::WaitFor(int type, XEvent& event) {
-  using Clock = std::chrono::steady_clock;
   const auto give_up = Clock::now() + std::chrono::seconds(1);
   for (;;) {
     while (XPending(display_) > 0) {
@@ -74,6 +75,7 @@ Atom X11SelectionReader::TakeProperty(std::string& bytes) {
 
 std::optional<std::string> X11SelectionReader::ReadText() {
   if (!Open()) return std::nullopt;
+  const auto give_up = Clock::now() + std::chrono::seconds(10);
   XConvertSelection(display_, clipboard_, utf8_, property_, window_, CurrentTime);
   XEvent event;
   if (!WaitFor(SelectionNotify, event) || event.xselection.property == None) return std::nullopt;
@@ -87,8 +89,13 @@ std::optional<std::string> X11SelectionReader::ReadText() {
     if (!WaitFor(PropertyNotify, event)) return std::nullopt;
     TakeProperty(piece);
     if (piece.empty()) return text;
-    // Past kLargest the pieces are still taken, so that the owner ends.
-    text.append(piece, 0, kLargest - std::min(kLargest, text.size()));
+    text += piece;
+    // An owner that never ends its text is not waited for: it gives up
+    // when its next piece is not taken.
+    if (text.size() >= kLargest || Clock::now() > give_up) {
+      text.resize(std::min(text.size(), kLargest));
+      return text;
+    }
   }
 }
 

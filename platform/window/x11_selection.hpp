@@ -23,8 +23,8 @@ class X11SelectionReader {
   // The window that owns CLIPBOARD now; None without an owner or an X server.
   ::Window Owner();
   // The clipboard's text in UTF-8, whole or sent in increments; nothing when
-  // the owner refuses it or stops answering for a second. Larger than
-  // kLargest, it is cut there.
+  // the owner refuses it or stops answering for a second. What has come
+  // after kLargest bytes or 10 seconds is all there is.
   std::optional<std::string> ReadText();
 
   static constexpr std::size_t kLargest = 16u << 20;
