@@ -32,13 +32,17 @@ String Conv::Cadre(String S, Integer L, Integer /*N*/) {
 String Conv::Elague(String S) { return RTrim(S); }
 
 String Conv::EntierTexte(Long V, Integer L) {
-  // The blanks first, then the digits: one string made, no copy.
+  // Zeros, not blanks, fill the places: a font's digits share one width
+  // where a blank is narrower, and the status line, drawn again without
+  // being erased, must cover the last one exactly.
   char digits[16];
   const char* const end = std::to_chars(digits, digits + sizeof digits, V).ptr;
-  const Long count = static_cast<Long>(end - digits);
+  const char* first = digits;
   String text;
-  if (count < L) text = Space(L - count);
-  text.append(static_cast<const char*>(digits), end);
+  if (V < 0) text += *first++;
+  const Long count = static_cast<Long>(end - digits);
+  if (count < L) text.append(static_cast<std::size_t>(L - count), u'0');
+  text.append(first, end);
   return text;
 }
 

@@ -20,7 +20,7 @@ TEST_F(EditLoopTest, EachPassDrawsStatusThenFieldAndTheEndRedrawsInBlack) {
       "Pave 525 624 2625 817 -1\nTexte 525 624 \"hello               \" ";
   EXPECT_EQ(TakeLog(),
             "EffaceRect 5332 8112 6487 8306 -1\nPave 5332 8112 6487 8305 -1\n"
-            "Texte 5332 8112 \"Curseur   1\" 0\n" +
+            "Texte 5332 8112 \"Curseur 001\" 0\n" +
                 field + "8388608\n" + field + "0\n");
 
   // Another colour than "B": the end erases in Env.Blanc.
@@ -96,7 +96,7 @@ TEST_F(EditLoopTest, FieldOnAnotherSurfaceKeepsTheStatusOnTheMainOne) {
     return texts;
   };
   EXPECT_EQ(texts_on(*other), "abc  |x    |x    |");
-  EXPECT_EQ(texts_on(Zone()), "Curseur   1|Curseur   2|");
+  EXPECT_EQ(texts_on(Zone()), "Curseur 001|Curseur 002|");
   // The caret: CT + "x", then the surface's place and CaretX / CaretY.
   EXPECT_EQ(std::pair(CaretControl(St())->Left(), CaretControl(St())->Top()),
             std::pair(kCT + 105 + 1500 + 30, Single{790 + 2000 + 40}));

@@ -61,7 +61,7 @@ class EditorTest : public SessionTest {
       if (call.name != "Texte") continue;
       const String text = VariantToString(call.args[2]);
       if (text.starts_with(u"Curseur ") != status) continue;
-      texts += ToUtf8(status ? Trim(Mid(text, 9)) : text) + "|";
+      texts += (status ? std::to_string(std::stoi(ToUtf8(Mid(text, 9)))) : ToUtf8(text)) + "|";
     }
     return texts;
   }

@@ -101,7 +101,9 @@ TEST(ConvTextTest, PadCutCompareAndKeepTheGreater) {
   Conv conv;
   EXPECT_EQ(conv.Cadre(u"ab", 5, 0), u"ab   ");
   EXPECT_EQ(conv.Cadre(u"abcdef", 3, 0), u"abcdef");
-  EXPECT_EQ(conv.EntierTexte(-42, 5), u"  -42");
+  EXPECT_EQ(conv.EntierTexte(-42, 5), u"-0042");
+  EXPECT_EQ(conv.EntierTexte(7, 3), u"007");
+  EXPECT_EQ(conv.EntierTexte(12345, 3), u"12345");
   String s = u"abc   ";
   EXPECT_EQ(conv.LongUtile(s), 3);
   conv.Tronque(s, 1);
