@@ -81,6 +81,11 @@ void EventLoop::Handle(const SDL_Event& event) {
       Close();
       return;
     case SDL_KEYDOWN: {
+      if (keys_.size() >= kMostPendingKeys) {
+        ++dropped_keys_;
+        next_text_ = NextText::kDropped;
+        return;
+      }
       const Integer mask = ShiftMaskOf(event.key.keysym.mod);
       auto vk = VirtualKeyOf(event.key.keysym.sym, event.key.keysym.scancode);
       if (vk && (event.key.keysym.mod & KMOD_NUM) == 0) vk = KeypadKeyWithoutNumLock(*vk);
@@ -116,6 +121,10 @@ void EventLoop::Handle(const SDL_Event& event) {
         } else {
           // Text with no key of its own (an input method, a second
           // character): the platform's packet key carries it.
+          if (keys_.size() >= kMostPendingKeys) {
+            ++dropped_keys_;
+            continue;
+          }
           headless::KeyItem item = Keystroke(headless::kPacketKey, 0);
           item.has_press = true;
           item.key_ascii = code;

@@ -50,6 +50,8 @@ class EventLoop final : public forms::EventLoop {
   // tell from faster and which keeps an idle field near zero processor.
   static constexpr std::int64_t kTimerResolutionMs = 16;
   static constexpr std::int64_t kLongestSleepMs = 500;
+  // Keystrokes kept waiting at most; later ones are dropped and counted.
+  static constexpr std::size_t kMostPendingKeys = 65536;
 
   // Pre: SDL's video is initialised for the loop's lifetime.
   EventLoop();
@@ -82,6 +84,11 @@ class EventLoop final : public forms::EventLoop {
 
   void DoEvents() override;
   TimerRef CreateTimer(std::function<void()> on_tick) override;
+  // Takes what the windowing system sent, without delivering a key or
+  // firing a timer: keys queue in order for the next wait, a close or the
+  // window's own events take effect. For a host busy between waits, so that
+  // the system's queue never overflows and the window answers.
+  void TakeEvents() { Pump(); }
 
   // The window was closed: Env.Abandon is True from then on.
   bool Closed() const { return closed_; }
@@ -92,8 +99,10 @@ class EventLoop final : public forms::EventLoop {
   std::int64_t Now() const;
   // Times DoEvents slept, for the benchmark's count of wake-ups.
   std::uint64_t Sleeps() const { return sleeps_; }
-  // Keystrokes translated but not yet delivered.
+  // Keystrokes translated but not yet delivered, and those dropped beyond
+  // kMostPendingKeys.
   std::size_t PendingKeys() const { return keys_.size(); }
+  std::uint64_t DroppedKeys() const { return dropped_keys_; }
 
  private:
   struct TimerEntry {
@@ -125,6 +134,7 @@ class EventLoop final : public forms::EventLoop {
   std::function<bool()> present_;
   std::function<bool()> changed_;
   std::deque<headless::KeyItem> keys_;
+  std::uint64_t dropped_keys_ = 0;
   // What the next text the system types belongs to: a key of its own (the
   // platform's packet key), the last keystroke queued, which still lacks
   // its KeyPress, or a Ctrl or Alt chord, whose text the platform drops.

@@ -1,5 +1,6 @@
 #include "cli/run_command.hpp"
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -31,8 +32,17 @@ int RunInWindow(const std::string& file, std::ostream& out, std::ostream& err) {
   {
     AutomateSession session(SurfaceKind::Raster, [&w = *window] { return w.OpenSession(); });
     // The lines are read and answered as `automate` does, each answer shown
-    // at once; closing the window ends the reading.
-    const bool written = session.Run(in, out, [&w = *window] {
+    // at once; closing the window ends the reading. Between the lines the
+    // window still answers the person, every 10 ms at most: a close stops
+    // the file, an uncovered window is shown again, keys typed ahead keep
+    // for the next field.
+    auto taken = std::chrono::steady_clock::now();
+    const bool written = session.Run(in, out, [&w = *window, &taken] {
+      const auto now = std::chrono::steady_clock::now();
+      if (now - taken >= std::chrono::milliseconds(10)) {
+        taken = now;
+        w.Loop().TakeEvents();
+      }
       w.Present();
       return !w.Closed();
     });

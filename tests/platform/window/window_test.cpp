@@ -376,6 +376,39 @@ TEST_F(WindowTest, RunPlaysASessionInAWindow) {
   EXPECT_EQ(std::count(answers.begin(), answers.end(), '\n'), 5) << answers;
   EXPECT_NE(answers.find(R"("args":["Café","A",3,12,1260,20,13])"), std::string::npos) << answers;
 
+  // Closed while the file keeps it busy drawing, between waits: the file
+  // stops there.
+  {
+    std::ofstream busy(file);
+    busy << "{\"call\":\"InitKyF\"}\n";
+    for (int i = 0; i < 5000; ++i) {
+      busy << R"({"call":"AffPos","args":[2,1]})" << '\n'
+           << R"({"call":"AffTab","args":[30,"[[NOM,Nom du client,24],[VILLE,Ville,12]]"]})"
+           << '\n';
+    }
+  }
+  std::thread busy_closer([&] {
+    for (int i = 0; i < 100; ++i) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(100));
+      FILE* p = popen("xdotool search --name '^Ferlan$' 2>/dev/null", "r");
+      unsigned long id = 0;
+      const bool found = p != nullptr && std::fscanf(p, "%lu", &id) == 1;
+      if (p != nullptr) pclose(p);
+      if (found) {
+        AskToClose(id);
+        return;
+      }
+    }
+  });
+  const int busy_status =
+      std::system((std::string(FERLAN_CLI) + " run " + file + " > " + out).c_str());
+  busy_closer.join();
+  EXPECT_EQ(WEXITSTATUS(busy_status), 0);
+  const std::string played = ReadFile(out);
+  const auto lines = std::count(played.begin(), played.end(), '\n');
+  EXPECT_GT(lines, 0);
+  EXPECT_LT(lines, 10001);
+
   // Without a display: one line, and status 2.
   const std::string err = ::testing::TempDir() + "ferlan_run_test.err";
   const int no_display =
